@@ -1,0 +1,130 @@
+// What every control has: a place on its window, whether it is enabled and visible, and the one hook by which
+// a view follows it. Controls are plain objects; without a view they behave the same and nothing shows.
+#pragma once
+
+#include <functional>
+#include <string>
+
+namespace wrenbit {
+
+class Form;
+
+// Twips (1/1440 inch, 15 to a pixel at 96 dpi), from the corner of the container.
+struct Place {
+  int Left = 0;
+  int Top = 0;
+  int Width = 0;
+  int Height = 0;
+};
+
+struct Font {
+  bool FixedPitch = false;
+  double Points = 9;
+};
+
+class Control {
+ public:
+  // The container is a frame or a form and outlives the control.
+  Control(Control& holder, Place place, Font font = {});
+  Control(const Control&) = delete;
+  Control& operator=(const Control&) = delete;
+  virtual ~Control() = default;
+
+  bool Enabled() const { return enabled; }
+  void Set_Enabled(bool value);
+  bool Visible() const { return visible; }
+  void Set_Visible(bool value);
+
+  // True when the control and all that hold it are enabled: only then can the user reach it.
+  bool Reachable() const;
+
+  // Gives the keyboard to this control. Refused, with no effect, while its form is hidden or it is not
+  // reachable.
+  bool Set_Focus();
+
+  // Back to the state in which the control was made: what unloading a form does to what lies on it.
+  virtual void Reset();
+
+  Form& Window() const { return *form; }
+  Control* Container() const { return container; }
+
+  const Place At;
+  const Font Lettering;
+
+  // Called after any property has changed. Set by the view, and by nobody else.
+  std::function<void()> Changed;
+
+ protected:
+  explicit Control(Form& self);  // A form holds itself.
+  void Tell() const {
+    if (Changed) Changed();
+  }
+  // Stores a property and tells the view when it is a new value. True when it was.
+  template <class T>
+  bool Store(T& property, T value) const {
+    if (property == value) return false;
+    property = std::move(value);
+    Tell();
+    return true;
+  }
+
+ private:
+  Control* container = nullptr;
+  Form* form = nullptr;
+  bool enabled = true;
+  bool visible = true;
+};
+
+// An event that nobody handles is no error.
+template <class... Arguments>
+void Fire(const std::function<void(Arguments...)>& event, Arguments... arguments) {
+  if (event) event(arguments...);
+}
+
+// A control with a text that code sets and the user only reads.
+class Captioned : public Control {
+ public:
+  Captioned(Control& holder, Place place, std::string first_caption, Font font = {});
+  const std::string& Caption() const { return caption; }
+  void Set_Caption(std::string value) { Store(caption, std::move(value)); }
+  void Reset() override;
+
+ protected:
+  Captioned(Form& self, std::string first_caption);
+
+ private:
+  std::string first;
+  std::string caption;
+};
+
+enum class Alignment { Left = 1, Centre = 4, Right = 7 };
+
+class Label : public Captioned {
+ public:
+  Label(Control& holder, Place place, std::string first_caption, Font font = {},
+        Alignment alignment = Alignment::Left)
+      : Captioned(holder, place, std::move(first_caption), font), Align(alignment) {}
+  const Alignment Align;
+};
+
+class Frame : public Captioned {
+ public:
+  using Captioned::Captioned;
+  std::function<void()> Click;
+};
+
+class CommandButton : public Captioned {
+ public:
+  using Captioned::Captioned;
+  std::function<void()> Click;
+};
+
+// A menu, an entry of one, or a separator, whose caption is "-". "&" stands before the mnemonic.
+class Menu : public Captioned {
+ public:
+  Menu(Control& holder, std::string first_caption) : Captioned(holder, {}, std::move(first_caption)) {}
+  bool Separator() const { return Caption() == "-"; }
+  std::function<void()> Click;
+};
+
+}  // namespace wrenbit

@@ -1,0 +1,66 @@
+// The grid control: rows of text cells with one fixed row above, one fixed column at the left and one current
+// cell. A row is kept as it was written, cells parted by TAB, and cut up only when a cell is asked for, so
+// that refilling thousands of rows costs one string each.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "control.h"
+
+namespace wrenbit {
+
+class FlexGrid : public Control {
+ public:
+  using Control::Control;
+
+  // Fixed ones included. New rows are empty; a current cell that falls outside moves to the last one.
+  int Rows() const { return static_cast<int>(rows.size()); }
+  void Set_Rows(int count);
+  int Cols() const { return static_cast<int>(columns.size()); }
+  void Set_Cols(int count);
+
+  // The current cell. Setting it fires no click; a place outside the grid is refused, with no effect.
+  int Row() const { return row; }
+  void Set_Row(int value);
+  int Col() const { return col; }
+  void Set_Col(int value);
+
+  // End column of the selection, which begins at the current cell. Setting Row or Col takes it back there.
+  void Set_ColSel(int value);
+  // The texts of the selected cells, TAB between them.
+  void Set_Clip(std::string text);
+
+  // The current cell.
+  std::string Text() const { return std::string(Cell(row, col)); }
+  void Set_Text(std::string_view text);
+
+  // Any cell; empty outside the grid. The view is good until the grid changes.
+  std::string_view Cell(int at_row, int at_col) const;
+
+  // Header texts, a vertical bar between columns, a caret before a centred one.
+  void Set_FormatString(std::string_view format);
+  int ColWidth(int column) const { return columns.at(static_cast<std::size_t>(column)).Width; }
+  void Set_ColWidth(int column, int twips);
+  Alignment ColAlignment(int column) const { return columns.at(static_cast<std::size_t>(column)).Align; }
+  void Set_ColAlignment(int column, Alignment alignment);
+  void Reset() override;
+
+  std::function<void()> Click;
+
+ private:
+  struct Column {
+    int Width = 960;
+    Alignment Align = Alignment::Left;
+  };
+  void Set_Cell(int at_row, int at_col, std::string_view text);
+
+  std::vector<std::string> rows;
+  std::vector<Column> columns;
+  int row = 0;
+  int col = 0;
+  int col_sel = 0;
+};
+
+}  // namespace wrenbit

@@ -1,0 +1,74 @@
+// A window: what lies on it, its position, its life from load to unload, and the hooks of its view.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "control.h"
+
+namespace wrenbit {
+
+enum class Pointer { Default = 0, Hourglass = 11 };
+
+class Form : public Captioned {
+ public:
+  // The size of the client area, in twips.
+  Form(int client_width, int client_height, std::string first_caption = {});
+
+  // The first use of a window loads it: all that lies on it is put to its first state, and Form_Load runs.
+  // Does nothing while it is loaded. Shows nothing.
+  void Ensure_Loaded();
+  void Show();
+  // Returns when the window has gone. Without a view it returns at once, the window still up.
+  void Show_Modal();
+  void Hide();
+  // Runs Form_Unload and hides the window.
+  void Unload();
+  // Unloaded, hidden and with everything in its first state, as at the start of the process. No event runs.
+  void Reset_All();
+  bool Loaded() const { return loaded; }
+
+  // What the close box asks for. Unloads, unless the window has a will of its own in Close_Asked.
+  void Close();
+
+  // Twips, from the corner of the screen. A fraction is kept.
+  double Left() const { return left; }
+  double Top() const { return top; }
+  void Move(double new_left, double new_top);
+  bool Minimised() const { return minimised; }
+  void Set_Minimised(bool value) { minimised = value; }
+
+  Pointer MousePointer() const { return pointer; }
+  void Set_MousePointer(Pointer value) { Store(pointer, value); }
+
+  Control* ActiveControl() const { return active; }
+  void Set_ActiveControl(Control& control);
+
+  // All that lies on the form, in the order in which it was made.
+  const std::vector<Control*>& Controls() const { return controls; }
+  void Add(Control& control) { controls.push_back(&control); }
+
+  const int Client_Width;
+  const int Client_Height;
+
+  std::function<void()> Form_Load;
+  std::function<void()> Form_Unload;
+  std::function<void()> Close_Asked;
+
+  // Hooks of the view.
+  std::function<void(bool modal)> View_Show;  // A modal one comes back when the window has gone.
+  std::function<void()> View_Hide;
+  std::function<void(Control&)> View_Focus;
+  std::function<void()> View_Move;
+
+ private:
+  std::vector<Control*> controls;
+  Control* active = nullptr;
+  double left = 0;
+  double top = 0;
+  Pointer pointer = Pointer::Default;
+  bool loaded = false;
+  bool minimised = false;
+};
+
+}  // namespace wrenbit

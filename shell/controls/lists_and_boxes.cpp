@@ -1,0 +1,78 @@
+#include "lists_and_boxes.h"
+
+#include <algorithm>
+
+namespace wrenbit {
+
+TextBox::TextBox(Control& holder, Place place, int max_length, Font font)
+    : Control(holder, place, font), MaxLength(max_length) {}
+
+void TextBox::Set_Text(std::string value) {
+  if (value == text) return;
+  selected = 0;
+  text = std::move(value);
+  Tell();
+  Fire(Change);
+}
+
+void TextBox::Set_SelLength(int value) {
+  const auto characters = std::count_if(text.begin(), text.end(), [](char c) { return (c & 0xC0) != 0x80; });
+  selected = std::min(value, static_cast<int>(characters));
+  Tell();
+}
+
+void TextBox::Reset() {
+  text.clear();
+  selected = 0;
+  Control::Reset();
+}
+
+CheckBox::CheckBox(Control& holder, Place place, std::string first_caption, bool first_value, Font font)
+    : Captioned(holder, place, std::move(first_caption), font), first(first_value), value(first) {}
+
+void CheckBox::Set_Value(int new_value) {
+  if (Store(value, new_value)) Fire(Click);
+}
+
+void CheckBox::Reset() {
+  value = first;
+  Captioned::Reset();
+}
+
+void ComboBox::Clear() {
+  items.clear();
+  index = -1;
+  Tell();
+}
+
+void ComboBox::AddItem(std::string item) {
+  items.push_back(std::move(item));
+  Tell();
+}
+
+bool ComboBox::Set_ListIndex(int new_index) {
+  if (new_index < 0 || new_index >= ListCount()) return false;
+  index = new_index;
+  Tell();
+  Fire(Click);
+  return true;
+}
+
+void ComboBox::Reset() {
+  Clear();
+  Control::Reset();
+}
+
+StatusBar::StatusBar(Control& holder, Place place, std::array<int, kPanels> panel_widths)
+    : Control(holder, place), Widths(panel_widths) {}
+
+void StatusBar::Set_Panel(int number, std::string text) {
+  Store(texts.at(static_cast<std::size_t>(number - 1)), std::move(text));
+}
+
+void StatusBar::Reset() {
+  texts = {};
+  Control::Reset();
+}
+
+}  // namespace wrenbit
