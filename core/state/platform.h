@@ -1,0 +1,67 @@
+// The small seams to the platform: who the program is, the yield, the clock, the pause and the message box.
+#pragma once
+
+#include <string>
+
+namespace wrenbit {
+
+// Facts of the program; the platform fills in what it knows before Main runs.
+struct App_Facts {
+  std::string Title = "wrenbit";
+  int Major = 1;
+  int Minor = 2;
+  int Revision = 10;
+  std::string FileDescription =
+      "TOLVEX Programmerを使用し、シリアルＥＥＰＲＯＭにプログラミングするためのソフトです。";
+  std::string Comments;
+  std::string Path;           // Folder of the program's file, no closing separator except at the root.
+  bool PrevInstance = false;  // Another instance of this user's runs already.
+};
+inline App_Facts App;
+
+inline constexpr const char* kSupportPage = "https://wrenbit.example/support";
+
+// "1.2.10"
+std::string App_Version();
+// "WRENBIT"
+std::string App_Title_Upper();
+
+enum class Message_Icon { Critical, Question, Information, Warning };
+enum class Message_Buttons { Ok, OkCancel };
+
+class Platform {
+ public:
+  virtual ~Platform() = default;
+  // Delivers pending events, then comes back.
+  virtual void DoEvents() = 0;
+  // Delivers pending events; when there are none, rests until one comes, at most for so many seconds.
+  // A byte on the serial port is an event.
+  virtual void Await_Event(double seconds) = 0;
+  // Seconds on a clock that never goes back.
+  virtual double Timer() = 0;
+  // Rests with no event delivered.
+  virtual void Sleep(int milliseconds) = 0;
+  // Modal. True for OK.
+  virtual bool MsgBox(const std::string& text, Message_Icon icon, Message_Buttons buttons,
+                      const std::string& title) = 0;
+  // Hands a web address to the user's browser. A failure passes unseen.
+  virtual void Open_Address(const std::string& address) = 0;
+  // Ends the program when the handler in hand has returned.
+  virtual void End() = 0;
+};
+
+// The platform in use. Set before anything else runs; owned by whoever sets it.
+inline Platform* ThePlatform = nullptr;
+
+inline void DoEvents() { ThePlatform->DoEvents(); }
+inline double Timer() { return ThePlatform->Timer(); }
+inline void Sleep(int milliseconds) { ThePlatform->Sleep(milliseconds); }
+inline bool MsgBox(const std::string& text, Message_Icon icon, Message_Buttons buttons,
+                   const std::string& title) {
+  return ThePlatform->MsgBox(text, icon, buttons, title);
+}
+
+// True when the path is a regular file that can be opened for reading.
+bool File_Exists(const std::string& path);
+
+}  // namespace wrenbit

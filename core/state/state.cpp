@@ -1,0 +1,30 @@
+#include "state.h"
+
+#include "windows.h"
+
+namespace wrenbit {
+
+void Reset_State() {
+  ImageBuffer.clear();
+  ImageChecksum = 0;
+  DeviceTable.clear();
+  CatalogueVersionText.clear();
+  DeviceFamily = MemSize = PageSize = AddressMode = AddressBits = 0;
+  DeviceStatusText.clear();
+  AccessSize = 0;
+  ProgrammerVersion = 0;
+  ProgrammerVersionText.clear();
+  PortMirror = {};
+  LinkError = 0;
+  WaitStart = 0;
+  TxBytes.clear();
+  RxBytes.clear();
+  TransferStart = 0;
+  TransferRunning = CloseWhenIdle = UpdatingControls = 0;
+  HexFilePath.clear();
+  MainTitle.clear();
+  AppFolder.clear();
+  Reset_Windows();
+}
+
+}  // namespace wrenbit

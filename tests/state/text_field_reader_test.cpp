@@ -1,0 +1,72 @@
+#include "text_field_reader.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+namespace wrenbit {
+namespace {
+
+std::vector<std::string> Fields(std::string_view text, Quotes quotes) {
+  std::vector<std::string> fields;
+  for (Text_Field_Reader reader(text, quotes); !reader.At_End();) fields.emplace_back(reader.Next());
+  return fields;
+}
+
+TEST(TextFieldReader, FieldsEndAtCommasAndLineEnds) {
+  const struct {
+    const char* text;
+    std::vector<std::string> fields;
+  } cases[] = {
+      {"", {}},
+      {"a", {"a"}},
+      {"a\n", {"a"}},
+      {"a\r\nb\rc\nd", {"a", "b", "c", "d"}},
+      {"a\n\r\n\rb", {"a", "", "", "b"}},
+      {"a,b\r\nc,", {"a", "b", "c"}},
+      {",\n,", {"", "", ""}},
+      {"  a b  ,\tc", {"a b  ", "\tc"}},
+      {"   ", {""}},
+      {"\x83\x5C,\x83\x7C", {"\x83\x5C", "\x83\x7C"}},
+  };
+  for (const auto& [text, fields] : cases) {
+    EXPECT_EQ(Fields(text, Quotes::Honoured), fields) << text;
+    EXPECT_EQ(Fields(text, Quotes::Plain), fields) << text;
+  }
+}
+
+TEST(TextFieldReader, QuotesHoldAFieldTogetherWhereTheyAreHonoured) {
+  const struct {
+    const char* text;
+    std::vector<std::string> honoured;
+    std::vector<std::string> plain;
+  } cases[] = {
+      {"\"a,b\"\nc", {"a,b", "c"}, {"\"a", "b\"", "c"}},
+      {"\"a\r\nb\",c", {"a\r\nb", "c"}, {"\"a", "b\"", "c"}},
+      {"  \" a \"  ,  c", {" a ", "c"}, {"\" a \"  ", "c"}},
+      {"\"a\",\nb", {"a", "", "b"}, {"\"a\"", "", "b"}},
+      {"\"a\" b,c", {"a", "b", "c"}, {"\"a\" b", "c"}},
+      {"a\"b,c\"", {"a\"b", "c\""}, {"a\"b", "c\""}},
+      {"\"a,b\n", {"a,b\n"}, {"\"a", "b"}},
+      {"\"", {""}, {"\""}},
+      {"\"\"", {""}, {"\"\""}},
+  };
+  for (const auto& [text, honoured, plain] : cases) {
+    EXPECT_EQ(Fields(text, Quotes::Honoured), honoured) << text;
+    EXPECT_EQ(Fields(text, Quotes::Plain), plain) << text;
+  }
+}
+
+TEST(TextFieldReader, TellsTheLineOnWhichAFieldBegan) {
+  Text_Field_Reader reader("a,b\r\n\rc\n\"d\r\ne\"\nf", Quotes::Honoured);
+  std::vector<int> lines;
+  while (!reader.At_End()) {
+    reader.Next();
+    lines.push_back(reader.Line());
+  }
+  EXPECT_EQ(lines, (std::vector{1, 1, 2, 3, 4, 6}));
+}
+
+}  // namespace
+}  // namespace wrenbit

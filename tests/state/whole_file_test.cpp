@@ -1,0 +1,184 @@
+#include "whole_file.h"
+
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <csignal>
+#include <cstring>
+#include <fstream>
+
+#include "temporary_folder.h"
+
+namespace wrenbit {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr const char* kNoFolder = "保存先のフォルダが見つかりません。";
+constexpr const char* kNotAllowed = "書き込みが許可されていないか、読み取り専用です。";
+constexpr const char* kDiskFull = "ディスクの空き容量が足りません。";
+constexpr const char* kFolder = "同じ名前のフォルダがあります。";
+constexpr const char* kNoRegularFile = "通常のファイルではないので、書き込めません。";
+
+mode_t Mode(const std::string& path) {
+  struct stat status {};
+  EXPECT_EQ(stat(path.c_str(), &status), 0) << path;
+  return status.st_mode & 07777;
+}
+
+// Permissions mean nothing to root, so such a test goes on as nobody.
+class Plain_User {
+ public:
+  Plain_User() : was_root(geteuid() == 0), plain(!was_root || seteuid(65534) == 0) {}
+  ~Plain_User() {
+    if (was_root && plain && seteuid(0) != 0) std::abort();
+  }
+  explicit operator bool() const { return plain; }
+
+ private:
+  const bool was_root;
+  const bool plain;
+};
+
+// A file may grow to so many bytes and no further, as on a disk that fills up: write takes a part, then
+// fails.
+class Small_Disk {
+ public:
+  explicit Small_Disk(rlim_t bytes) : handler(std::signal(SIGXFSZ, SIG_IGN)) {
+    getrlimit(RLIMIT_FSIZE, &old);
+    const rlimit small{bytes, old.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &small);
+  }
+  ~Small_Disk() {
+    setrlimit(RLIMIT_FSIZE, &old);
+    std::signal(SIGXFSZ, handler);
+  }
+
+ private:
+  rlimit old{};
+  void (*const handler)(int);
+};
+
+TEST(WholeFile, GivesBackAllBytes) {
+  const Temporary_Folder folder;
+  for (const std::string& text :
+       {std::string(), std::string("\0\r\n\x1A\xFF", 5), std::string(3'000'000, 'x')}) {
+    EXPECT_EQ(Write_Whole_File(folder / "a.hex", text), std::nullopt);
+    EXPECT_EQ(Read_Whole_File(folder / "a.hex"), text);
+  }
+  EXPECT_EQ(folder.Entries(), 1);
+}
+
+TEST(WholeFile, ReadsNothingButRegularFiles) {
+  const Temporary_Folder folder;
+  ASSERT_EQ(mkfifo((folder / "pipe").c_str(), 0666), 0);
+  for (const std::string& path :
+       {folder / "none", folder / "pipe", folder.Path(), std::string("/dev/zero")}) {
+    EXPECT_EQ(Read_Whole_File(path), std::nullopt) << path;
+  }
+  std::ofstream(folder / "vast").flush();
+  fs::resize_file(folder / "vast", std::uintmax_t{1} << 30);
+  EXPECT_EQ(Read_Whole_File(folder / "vast"), std::nullopt);
+}
+
+TEST(WholeFile, ANewFileFollowsTheUmaskAndAReplacedOneKeepsItsMode) {
+  const Temporary_Folder folder;
+  const mode_t old_mask = umask(027);
+  EXPECT_EQ(Write_Whole_File(folder / "a.hex", "1"), std::nullopt);
+  EXPECT_EQ(Mode(folder / "a.hex"), 0640u);
+  chmod((folder / "a.hex").c_str(), 0606);
+  EXPECT_EQ(Write_Whole_File(folder / "a.hex", "2"), std::nullopt);
+  EXPECT_EQ(Mode(folder / "a.hex"), 0606u);
+  umask(old_mask);
+}
+
+TEST(WholeFile, ALinkStaysAndItsGoalIsWritten) {
+  const Temporary_Folder folder;
+  fs::create_directory(folder / "below");
+  fs::create_symlink("below/second", folder / "first");
+  fs::create_symlink("file", folder / "below/second");
+  for (const char* text : {"made", "replaced"}) {
+    EXPECT_EQ(Write_Whole_File(folder / "first", text), std::nullopt);
+    EXPECT_TRUE(fs::is_symlink(folder / "first"));
+    EXPECT_TRUE(fs::is_symlink(folder / "below/second"));
+    EXPECT_EQ(Read_Whole_File(folder / "below/file"), text);
+  }
+  fs::create_symlink("ring", folder / "ring");
+  EXPECT_NE(Write_Whole_File(folder / "ring", "x"), std::nullopt);
+  EXPECT_TRUE(fs::is_symlink(folder / "ring"));
+}
+
+TEST(WholeFile, RefusesWhatIsNoRegularFileAndTellsWhy) {
+  const Temporary_Folder folder;
+  ASSERT_EQ(mkfifo((folder / "pipe").c_str(), 0666), 0);
+  std::ofstream(folder / "file") << "old";
+  const struct {
+    std::string path;
+    const char* reason;
+  } cases[] = {
+      {folder / "none/a.hex", kNoFolder},
+      {folder / "file/a.hex", kNoFolder},
+      {"", kNoFolder},
+      {folder.Path(), kFolder},
+      {folder / "", kFolder},
+      {folder / "pipe", kNoRegularFile},
+      {"/dev/null", kNoRegularFile},
+  };
+  for (const auto& [path, reason] : cases) EXPECT_EQ(Write_Whole_File(path, "x"), reason) << path;
+  EXPECT_EQ(folder.Entries(), 2);
+
+  const std::string other = Write_Whole_File(folder / std::string(300, 'n'), "x").value();
+  EXPECT_NE(other.find(std::strerror(ENAMETOOLONG)), other.npos) << other;
+}
+
+TEST(WholeFile, AFullDiskLeavesTheOldFileAndNothingBesideIt) {
+  const Temporary_Folder folder;
+  std::ofstream(folder / "a.hex") << "old";
+  {
+    const Small_Disk full(100);
+    EXPECT_EQ(Write_Whole_File(folder / "a.hex", std::string(101, 'x')), kDiskFull);
+    EXPECT_EQ(Write_Whole_File(folder / "b.hex", std::string(101, 'x')), kDiskFull);
+  }
+  EXPECT_EQ(Read_Whole_File(folder / "a.hex"), "old");
+  EXPECT_EQ(folder.Entries(), 1);
+}
+
+TEST(WholeFile, RefusesAFileOrFolderThatTheUserMayNotWrite) {
+  const Temporary_Folder folder;
+  const Plain_User plain;
+  if (!plain) GTEST_SKIP() << "root can't become a plain user here";
+  std::ofstream(folder / "read-only") << "old";
+  chmod((folder / "read-only").c_str(), 0444);
+  EXPECT_EQ(Write_Whole_File(folder / "read-only", "new"), kNotAllowed);
+  EXPECT_EQ(Read_Whole_File(folder / "read-only"), "old");
+  EXPECT_EQ(folder.Entries(), 1);
+
+  fs::create_directory(folder / "locked");
+  std::ofstream(folder / "locked/writable") << "old";
+  chmod((folder / "locked").c_str(), 0555);
+  EXPECT_EQ(Write_Whole_File(folder / "locked/a.hex", "new"), kNotAllowed);
+  EXPECT_EQ(Write_Whole_File(folder / "locked/writable", "new"), kNotAllowed);
+  EXPECT_EQ(Read_Whole_File(folder / "locked/writable"), "old");
+  chmod((folder / "locked").c_str(), 0755);
+}
+
+// In a sticky folder the last step, the move, is what another user's file refuses.
+TEST(WholeFile, AMoveThatIsRefusedLeavesNothingBeside) {
+  if (geteuid() != 0) GTEST_SKIP() << "only root can lay down another user's file";
+  const Temporary_Folder folder;
+  chmod(folder.Path().c_str(), 01777);
+  std::ofstream(folder / "of-root") << "old";
+  chmod((folder / "of-root").c_str(), 0666);
+  {
+    const Plain_User plain;
+    if (!plain) GTEST_SKIP() << "root can't become a plain user here";
+    EXPECT_EQ(Write_Whole_File(folder / "of-root", "new"), kNotAllowed);
+  }
+  EXPECT_EQ(Read_Whole_File(folder / "of-root"), "old");
+  EXPECT_EQ(folder.Entries(), 1);
+}
+
+}  // namespace
+}  // namespace wrenbit
