@@ -1,0 +1,15 @@
+#include "cell_address.h"
+
+#include "frm_main.h"
+#include "state.h"
+
+namespace wrenbit {
+
+std::int32_t Current_Address() { return Address_Of_Cell(frmMain.MSFGrid1.Row(), frmMain.MSFGrid1.Col()); }
+
+bool Current_Cell_In_Image() {
+  const std::int32_t address = Current_Address();
+  return address >= 0 && static_cast<std::size_t>(address) < ImageBuffer.size();
+}
+
+}  // namespace wrenbit

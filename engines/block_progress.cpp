@@ -1,0 +1,32 @@
+#include "block_progress.h"
+
+#include <cmath>
+
+#include "frm_main.h"
+#include "platform.h"
+#include "state.h"
+
+namespace wrenbit {
+
+std::int32_t Percentage(std::int32_t address, std::int32_t last) {
+  const std::int64_t hundredfold = std::int64_t{address} * 100;
+  const std::int64_t whole = hundredfold / last;
+  const std::int64_t twice_rest = hundredfold % last * 2;
+  const bool up = twice_rest > last || (twice_rest == last && whole % 2 == 1);
+  return static_cast<std::int32_t>(whole + (up ? 1 : 0));
+}
+
+void Block_Progress::At(std::int32_t address) {
+  const std::int32_t now = Percentage(address, last);
+  if (now == shown) return;
+  shown = now;
+  frmMain.sbStatusBar.Set_Panel(3, std::to_string(now) + "%");
+}
+
+void Tell_Duration(const std::string& text) {
+  TransferStart = Timer() - TransferStart;
+  const auto seconds = static_cast<long>(std::floor(TransferStart));
+  frmMain.sbStatusBar.Set_Panel(1, text + " (" + std::to_string(seconds) + "sec)");
+}
+
+}  // namespace wrenbit

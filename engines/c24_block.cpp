@@ -1,0 +1,110 @@
+#include "c24_block.h"
+
+#include "accelerators.h"
+#include "block_progress.h"
+#include "c24_bus.h"
+#include "c24_control.h"
+#include "frm_main.h"
+#include "handshake.h"
+#include "link.h"
+#include "platform.h"
+
+namespace wrenbit {
+namespace {
+
+// Handshake and block size. False: nothing has touched the bus.
+bool Begin() {
+  TransferStart = Timer();
+  Read_Version();
+  if (LinkError) return false;
+  if (MemSize <= AccessSize) frmMain.CmbSize.Set_ListIndex(MemSize - 4);
+  return true;
+}
+
+std::int32_t Last_Address() { return (1 << AccessSize) - 1; }
+
+void Send_Byte(std::uint8_t byte) { Has_Accelerators() ? Link_SendByte24(byte) : C24_Byte_By_Bits(byte); }
+
+void Send_Checked(std::uint8_t byte) {
+  Send_Byte(byte);
+  ACK_Check();
+}
+
+std::uint8_t Receive_Byte() {
+  if (Has_Accelerators()) return Link_ReadByte24();
+  int byte = 0;
+  for (int bit = 7; bit >= 0; --bit)
+    if (C24_DATA() == 1) byte |= 1 << bit;
+  return static_cast<std::uint8_t>(byte);
+}
+
+void Send_Write_Address(std::int32_t address) {
+  C24_StartBit();
+  Send_Checked(Control_Byte(address, Direction::Write));
+  if (!One_Address_Byte()) Send_Checked(static_cast<std::uint8_t>(address >> 8 & 0xFF));
+  Send_Checked(static_cast<std::uint8_t>(address & 0xFF));
+}
+
+// A dummy write sets the chip's address counter to 0. In the one-byte form the control byte of the read
+// carries the high bits of the block's last address: the counter decides where the reading starts, not these
+// bits.
+void Start_Read(std::int32_t last) {
+  Send_Write_Address(0);
+  C24_StartBit();
+  C24_Byte_By_Bits(Control_Byte(One_Address_Byte() ? last : 0, Direction::Read));
+  ACK_Check();
+}
+
+// One page from `address` on, or what is left of the block. Gives the address behind it.
+std::int32_t Write_Page(std::int32_t address, std::int32_t last, Block_Progress& progress) {
+  Send_Write_Address(address);
+  for (std::int32_t sent = 0; sent < PageSize && address <= last; ++sent) {
+    progress.At(address);
+    Send_Checked(ImageBuffer[static_cast<std::size_t>(address)]);
+    ++address;
+  }
+  C24_StopBit();
+  return address;
+}
+
+}  // namespace
+
+void C24_AllRead() {
+  if (C24_Refused() || !Begin()) return;
+  const std::int32_t last = Last_Address();
+  Block_Progress progress(last);
+
+  C24_Power_on();
+  Start_Read(last);
+  for (std::int32_t address = 0; address <= last; ++address) {
+    DoEvents();
+    progress.At(address);
+    ImageBuffer[static_cast<std::size_t>(address)] = Receive_Byte();
+    address == last ? C24_Bit1() : C24_Bit0();
+    // Looked at behind the byte: a failed address phase still costs one trip.
+    if (LinkError) break;
+  }
+  C24_StopBit();
+  C24_Power_off();
+  if (LinkError) return;
+  Tell_Duration("読み出し終了。");
+}
+
+void C24_AllWrite() {
+  if (C24_Refused()) return;
+  if (PageSize < 1) return Refuse_Transfer("デバイスのページサイズが正しくありません。");
+  if (!Begin()) return;
+  const std::int32_t last = Last_Address();
+  Block_Progress progress(last);
+
+  C24_Power_on();
+  std::int32_t address = 0;
+  do {
+    address = Write_Page(address, last, progress);
+  } while (address <= last && !LinkError);
+  C24_Power_off();
+  if (LinkError) return;
+  Tell_Duration("書き込み終了。");
+}
+
+}  // namespace wrenbit

@@ -1,0 +1,131 @@
+#include "c24_bus.h"
+
+#include "accelerators.h"
+#include "frm_main.h"
+#include "link.h"
+#include "state.h"
+
+namespace wrenbit {
+namespace {
+
+constexpr std::uint8_t kSclHigh = 0x02;
+constexpr std::uint8_t kSdaHigh = 0x04;
+constexpr std::uint8_t kLines = kSclHigh | kSdaHigh;
+constexpr std::uint8_t kBothLow = 0;
+
+void Message(const char* text) { frmMain.sbStatusBar.Set_Panel(1, text); }
+
+void Write_A(std::uint8_t value) { Link_WritePortA(PortMirror.OutA = value); }
+void Dir_A(std::uint8_t value) { Link_SetDirA(PortMirror.DirA = value); }
+void Read_A() { PortMirror.InA = Link_ReadPortA(); }
+
+struct Port_Values {
+  std::uint8_t A, B, C;
+};
+
+// What a power sequence gives to the latches and directions, and what the pins must then read.
+struct Power_Sequence {
+  Port_Values Out, Dir, Expected;
+};
+constexpr Port_Values kWatched{.A = kLines, .B = 0x5C, .C = 0x88};
+constexpr Power_Sequence kOn{
+    .Out = {kLines, 0x40, 0x80}, .Dir = {0xF8, 0xA3, 0x77}, .Expected = {kLines, 0x40, 0x80}};
+constexpr Power_Sequence kOff{.Out = {0, 0, 0x80}, .Dir = {0xFF, 0xFF, 0x7F}, .Expected = {0, 0, 0x80}};
+
+// Latches first: a pin that turns into an output already has its level.
+void Power(const Power_Sequence& to) {
+  Write_A(to.Out.A);
+  Link_WritePortB(PortMirror.OutB = to.Out.B);
+  Link_WritePortC(PortMirror.OutC = to.Out.C);
+  Dir_A(to.Dir.A);
+  Link_SetDirB(PortMirror.DirB = to.Dir.B);
+  Link_SetDirC(PortMirror.DirC = to.Dir.C);
+
+  Read_A();
+  if ((PortMirror.InA & kWatched.A) != to.Expected.A || LinkError)
+    return Message("24Cxx Power on PortA error");
+  PortMirror.InB = Link_ReadPortB();
+  if ((PortMirror.InB & kWatched.B) != to.Expected.B || LinkError)
+    return Message("24Cxx Power on PortB error");
+  PortMirror.InC = Link_ReadPortC();
+  if ((PortMirror.InC & kWatched.C) != to.Expected.C || LinkError)
+    return Message("24Cxx Power on PortC error");
+}
+
+// Drives the lines and looks whether they followed.
+bool Step(std::uint8_t levels, const char* error) {
+  Write_A(levels);
+  Read_A();
+  if ((PortMirror.InA & kLines) == levels && !LinkError) return true;
+  Message(error);
+  LinkError = 1;
+  return false;
+}
+
+// SDA set while SCL is low, then one pulse of SCL, which ends low.
+void Clock_Out(std::uint8_t sda) {
+  Write_A(sda);
+  Write_A(sda | kSclHigh);
+  Write_A(sda);
+}
+
+// SDA let go, SCL high, and port A read.
+void Clock_In_Begin() {
+  Write_A(kSdaHigh);
+  Dir_A(0xFD);
+  Write_A(kSclHigh);
+  Read_A();
+}
+
+// SCL low and SDA driven again, low. Port A bit 0, an output since power-on, is left an input.
+void Clock_In_End() {
+  Write_A(kBothLow);
+  Dir_A(0xF9);
+}
+
+}  // namespace
+
+void C24_Power_on() { Power(kOn); }
+void C24_Power_off() { Power(kOff); }
+
+void C24_StartBit() {
+  if (!Step(kLines, "24Cxx StartBit PortA error1")) return;
+  if (!Step(kSclHigh, "24Cxx StartBit PortA error2")) return;
+  Step(kBothLow, "24Cxx StartBit PortA error3");
+}
+
+void C24_StopBit() {
+  if (!Step(kSclHigh, "24Cxx StopBit PortA error1")) return;
+  Step(kLines, "24Cxx StopBit PortA error2");
+}
+
+void C24_Bit1() { Has_Accelerators() ? Link_SendBit1() : Clock_Out(kSdaHigh); }
+void C24_Bit0() { Has_Accelerators() ? Link_SendBit0() : Clock_Out(kBothLow); }
+
+bool C24_ACK() {
+  if (Has_Accelerators()) {
+    const bool pulled_down = Link_ReadBit() == 0;
+    if (!pulled_down) LinkError = 1;
+    return pulled_down;
+  }
+  Clock_In_Begin();
+  if (LinkError) Message("24Cxx ACK PortA error2");
+  const bool pulled_down = (PortMirror.InA & kSdaHigh) == 0;
+  if (!pulled_down) {
+    Message("24Cxx ACK error");
+    LinkError = 1;
+  }
+  Clock_In_End();
+  return pulled_down;
+}
+
+std::int32_t C24_DATA() {
+  if (Has_Accelerators()) return Link_ReadBit();
+  Clock_In_Begin();
+  if (LinkError) Message("24Cxx DATA PortA error2");
+  const std::int32_t bit = PortMirror.InA & kSdaHigh ? 1 : 0;
+  Clock_In_End();
+  return bit;
+}
+
+}  // namespace wrenbit

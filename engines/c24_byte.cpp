@@ -1,0 +1,80 @@
+#include "c24_byte.h"
+
+#include "c24_bus.h"
+#include "c24_control.h"
+#include "cell_address.h"
+#include "cell_selection.h"
+#include "frm_main.h"
+#include "handshake.h"
+#include "hex_grid.h"
+#include "state.h"
+
+namespace wrenbit {
+namespace {
+
+constexpr const char* kFinished = "Finsh";
+
+// Moves the cell out of the ASCII column, refuses what has no byte, and does the handshake. False: nothing
+// has touched the bus.
+bool Begin() {
+  if (frmMain.MSFGrid1.Col() == kAsciiCol) frmMain.MSFGrid1.Set_Col(kLastByteCol);
+  if (C24_Refused()) return false;
+  if (!Current_Cell_In_Image()) {
+    Refuse_Transfer("アドレスが選択されていません。");
+    return false;
+  }
+  Read_Version();
+  return !LinkError;
+}
+
+void Send_Checked(std::uint8_t byte) {
+  C24_Byte_By_Bits(byte);
+  ACK_Check();
+}
+
+void Send_Address(std::int32_t address) {
+  C24_StartBit();
+  Send_Checked(Control_Byte(address, Direction::Write));
+  if (!One_Address_Byte()) Send_Checked(static_cast<std::uint8_t>(address >> 8 & 0xFF));
+  Send_Checked(static_cast<std::uint8_t>(address & 0xFF));
+}
+
+std::uint8_t Receive_Byte() {
+  int byte = 0;
+  for (int bit = 7; bit >= 0; --bit) byte |= C24_DATA() << bit;
+  return static_cast<std::uint8_t>(byte);
+}
+
+}  // namespace
+
+void C24_ByteRead() {
+  if (!Begin()) return;
+  const std::int32_t address = Current_Address();
+  C24_Power_on();
+  Send_Address(address);
+  C24_StartBit();
+  Send_Checked(Control_Byte(address, Direction::Read));
+  const std::uint8_t byte = Receive_Byte();
+  C24_Bit1();  // No acknowledge for the last byte.
+  C24_StopBit();
+  C24_Power_off();
+  if (LinkError) return;
+
+  ImageBuffer[static_cast<std::size_t>(Current_Address())] = byte;
+  frmMain.MSFGrid1.Set_Text(Byte_Cell(byte));
+  MSFGrid1_Click();
+  frmMain.sbStatusBar.Set_Panel(1, kFinished);
+}
+
+void C24_ByteWrite() {
+  if (!Begin()) return;
+  const std::int32_t address = Current_Address();
+  C24_Power_on();
+  Send_Address(address);
+  Send_Checked(ImageBuffer[static_cast<std::size_t>(address)]);
+  C24_StopBit();
+  C24_Power_off();
+  if (!LinkError) frmMain.sbStatusBar.Set_Panel(1, kFinished);
+}
+
+}  // namespace wrenbit

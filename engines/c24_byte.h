@@ -1,0 +1,14 @@
+// One byte between a 24Cxx chip and the image: the one under the grid's current cell. Complete transactions,
+// from handshake to power-off, bit by bit at every firmware version. The command lock must be in force.
+// A transfer runs through to its power-off whatever fails on the way; LinkError and panel 1 tell the outcome.
+#pragma once
+
+namespace wrenbit {
+
+// On failure image, grid and edit panel stay as they were.
+void C24_ByteRead();
+
+// Sends the image's byte. What the chip stored is not read back.
+void C24_ByteWrite();
+
+}  // namespace wrenbit

@@ -1,0 +1,31 @@
+// What the 24Cxx transfers share: the control byte in both address forms, a byte in and out, the look at the
+// acknowledge, and the refusal of a device that cannot be addressed.
+//
+//   AddressMode     control byte              address bytes
+//   1               1 0 1 0 A10 A9 A8 R/W     A7..A0
+//   anything else   1 0 1 0 0 0 A16 R/W       A15..A8, A7..A0
+#pragma once
+
+#include <cstdint>
+
+namespace wrenbit {
+
+enum class Direction : std::uint8_t { Write = 0, Read = 1 };
+
+bool One_Address_Byte();
+
+std::uint8_t Control_Byte(std::int32_t address, Direction direction);
+
+// Eight bits, highest first, bit by bit at every firmware version.
+void C24_Byte_By_Bits(std::uint8_t byte);
+
+// C24_ACK, with its text in panel 1 when the chip did not acknowledge. Does not stop the transfer.
+void ACK_Check();
+
+// Tells in panel 1 why this device's transfers cannot run, and sets LinkError. Nothing has touched the port.
+void Refuse_Transfer(const char* why);
+
+// Refuses a device whose size is none, or more than its address form can reach. True when it did.
+bool C24_Refused();
+
+}  // namespace wrenbit

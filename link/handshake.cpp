@@ -1,0 +1,132 @@
+#include "handshake.h"
+
+#include <array>
+
+#include "com_ports.h"
+#include "frm_main.h"
+#include "mscomm.h"
+#include "number_text.h"
+#include "platform.h"
+#include "reply_wait.h"
+#include "settings.h"
+#include "state.h"
+
+namespace wrenbit {
+namespace {
+
+// The board's answer to "?": the word, five free characters, the version as text, and two bytes or more
+// behind.
+constexpr std::string_view kWord = "TOLVEX";
+constexpr std::size_t kTextLength = 15;
+constexpr std::size_t kVersionAt = 11;
+constexpr std::size_t kReplyLength = 17;
+
+constexpr const char* kLimits256 =
+    "パフォーマンスの関係で、アクセスサイズを[AllRead]=２５６バイト,[AllWrite]=２５６バイトに制限しています。"
+    "[ByteRead],[ByteWrite]は制限がありません。";
+constexpr const char* kLimits4096 =
+    "パフォーマンスの関係で、アクセスサイズを[AllRead]=４０９６バイト,[AllWrite]="
+    "４０９６バイトに制限しています。"
+    "[ByteRead],[ByteWrite]は制限がありません。";
+
+const char* Reason(Port_Fault fault) {
+  switch (fault) {
+    case Port_Fault::None:
+      return "";
+    case Port_Fault::No_Such_Port:
+      return "ポートがありません。";
+    case Port_Fault::No_Permission:
+      return "使用権限がありません。(dialoutグループに加入)";
+    case Port_Fault::In_Use:
+      return "ポートは使用中です。";
+    case Port_Fault::Gone:
+      return "ポートが切断されました。";
+    case Port_Fault::Refused:
+      return "ポートを開けません。";
+  }
+  return "";
+}
+
+// The number of the port as the user knows it; empty when the setting holds none.
+struct Port_Choice {
+  int Number = 0;
+  std::string Text;
+};
+
+Port_Choice Chosen_Port() {
+  const std::optional<std::int32_t> index = Whole_Number(GetSetting(key::kComNo, "0"));
+  if (!index || *index < 0 || *index >= kComPorts) return {};
+  return {*index + 1, std::to_string(*index + 1)};
+}
+
+void Tell_Not_Connected(const std::string& port) {
+  frmMain.sbStatusBar.Set_Panel(2, "COM" + port + " : ライター未接続");
+}
+
+void Tell_No_Answer(const std::string& port, Port_Fault fault) {
+  Tell_Not_Connected(port);
+  frmMain.sbStatusBar.Set_Panel(1, "プログラマ接続確認エラー。【" + port + "】" + Reason(fault));
+  LinkError = 1;
+}
+
+Port_Fault Open_Chosen(const Port_Choice& port) {
+  MSComm1.Close();
+  if (port.Number == 0) return Port_Fault::No_Such_Port;
+  MSComm1.CommPort = port.Number;
+  MSComm1.RTSEnable = Get_Number_Setting(key::kRts, 1) != 0;
+  MSComm1.DTREnable = Get_Number_Setting(key::kDtr, 0) != 0;
+  return MSComm1.Open();
+}
+
+void Query() {
+  constexpr std::array<std::uint8_t, 1> kQuery{'?'};
+  MSComm1.Clear_InBuffer();
+  MSComm1.Output(kQuery);
+}
+
+const char* Limits_Text() {
+  if (ProgrammerVersion == 0) return "";
+  return ProgrammerVersion < 5.0F ? kLimits256 : kLimits4096;
+}
+
+// ASCII only: anything else would put broken text into the status bar.
+std::string Printable(std::string text) {
+  for (char& c : text)
+    if (c < 0x20 || c > 0x7E) c = '?';
+  return text;
+}
+
+}  // namespace
+
+void Read_Version() {
+  LinkError = 0;
+  const Port_Choice port = Chosen_Port();
+  if (const Port_Fault fault = Open_Chosen(port); fault != Port_Fault::None)
+    return Tell_No_Answer(port.Text, fault);
+
+  // The first query wakes the board and clears its parser; what it says to it is dropped.
+  Query();
+  Sleep(50);
+  DoEvents();
+  Query();
+  Await_Bytes(kReplyLength);
+  if (MSComm1.InBufferCount() < kReplyLength)
+    return Tell_No_Answer(port.Text, MSComm1.Lost() ? Port_Fault::Gone : Port_Fault::None);
+
+  const std::vector<std::uint8_t> reply = MSComm1.Input();
+  const std::string text(reply.begin(), reply.begin() + kTextLength);
+  if (!text.starts_with(kWord)) {
+    // An unknown board is not driven.
+    Tell_Not_Connected(port.Text);
+    frmMain.sbStatusBar.Set_Panel(1, "プログラマ接続確認エラー。");
+    LinkError = 1;
+    return;
+  }
+  ProgrammerVersionText = Printable(text);
+  frmMain.sbStatusBar.Set_Panel(2, "COM" + port.Text + " : " + ProgrammerVersionText);
+  // No number counts as 0: port commands work with every board.
+  ProgrammerVersion = static_cast<float>(Decimal_Number(text.substr(kVersionAt)).value_or(0));
+  frmMain.Lbl_memo.Set_Caption(Limits_Text());
+}
+
+}  // namespace wrenbit

@@ -1,0 +1,52 @@
+// The sixteen operations that reach the programmer board. A command is its raw bytes: no framing, no
+// checksum, no sequence number, and a reply only where the table says so.
+//
+//   operation            bytes sent                reply
+//   Link_SendBit1        "1"                       none
+//   Link_SendBit0        "2"                       none
+//   Link_ReadBit         "3"                       1 = data line high, else low
+//   Link_SendByte24      "9" data                  one byte, ignored
+//   Link_ReadByte24      "7"                       the data
+//   Link_ReadByte93      "8"                       the data
+//   Link_SendBits93      "0" count high low        one byte, ignored
+//   Link_WritePortA..C   "mwa".."mwc" value        none
+//   Link_SetDirA..C      "mta".."mtc" value        none
+//   Link_ReadPortA..C    "mra".."mrc"              exactly one byte: the pins
+//
+// The digits exist from firmware 5.0 on. The port must be open. Each operation first drops what lies in the
+// receive buffer. A reply is awaited for one second; without one LinkError becomes 1 and the result is 0. No
+// operation clears LinkError or refuses to run because of it, and none retries.
+#pragma once
+
+#include <cstdint>
+
+namespace wrenbit {
+
+// 24Cxx accelerators.
+void Link_SendBit1();
+void Link_SendBit0();
+std::int32_t Link_ReadBit();  // 1 or 0.
+void Link_SendByte24(std::uint8_t data);
+std::uint8_t Link_ReadByte24();
+
+// 93Cxx accelerators.
+std::uint8_t Link_ReadByte93();
+// The low `count` bits of high x 256 + low, highest first.
+void Link_SendBits93(std::uint8_t count, std::uint8_t high, std::uint8_t low);
+
+// Output latches. Each yields once before it sends.
+void Link_WritePortA(std::uint8_t value);
+void Link_WritePortB(std::uint8_t value);
+void Link_WritePortC(std::uint8_t value);
+
+// Direction registers: a 1 makes the pin an input.
+void Link_SetDirA(std::uint8_t value);
+void Link_SetDirB(std::uint8_t value);
+void Link_SetDirC(std::uint8_t value);
+
+// Pin levels. More than one waiting byte fails like a time-out, and the bytes stay in the buffer.
+std::uint8_t Link_ReadPortA();
+std::uint8_t Link_ReadPortB();
+std::uint8_t Link_ReadPortC();
+
+}  // namespace wrenbit

@@ -1,0 +1,66 @@
+// The serial control, and the seam behind it through which a real port or a board in the same process is
+// reached. The line is always 9600 baud, no parity, 8 data bits, 1 stop bit, no flow control.
+#pragma once
+
+#include <cstdint>
+#include <span>
+#include <vector>
+
+namespace wrenbit {
+
+enum class Port_Fault {
+  None,
+  No_Such_Port,   // Nothing carries that number, or the number is none.
+  No_Permission,  // The user may not open the device.
+  In_Use,         // Another program holds it.
+  Gone,           // It was there and has been unplugged.
+  Refused,        // Any other refusal of the system.
+};
+
+// What opens, moves bytes and notices the end of a port. One port at a time.
+class Serial_Backend {
+ public:
+  virtual ~Serial_Backend() = default;
+  // Opens COM1 to COM20 by its number, with both lines set and nothing in the receive buffer. On a fault
+  // nothing is left open.
+  virtual Port_Fault Open(int number, bool rts, bool dtr) = 0;
+  virtual void Close() = 0;
+  // True once the open port has gone away; it then gives no byte any more and takes none.
+  virtual bool Lost() = 0;
+  // Bytes that have arrived and are not yet taken.
+  virtual std::size_t Waiting() = 0;
+  virtual std::vector<std::uint8_t> Take() = 0;
+  virtual void Drop() = 0;
+  // Goes out at once and in one piece. Bytes to a port that is lost are dropped.
+  virtual void Write(std::span<const std::uint8_t> bytes) = 0;
+};
+
+class MSComm {
+ public:
+  // The backend outlives its use here.
+  void Attach(Serial_Backend* port) { backend = port; }
+
+  int CommPort = 1;
+  // Take effect at the next open.
+  bool RTSEnable = true;
+  bool DTREnable = false;
+
+  bool PortOpen() const { return open; }
+  Port_Fault Open();
+  void Close();
+  bool Lost() { return open && backend->Lost(); }
+
+  // On a closed port there is nothing to read, and what is sent is dropped.
+  std::size_t InBufferCount() { return open ? backend->Waiting() : 0; }
+  void Clear_InBuffer();
+  std::vector<std::uint8_t> Input();
+  void Output(std::span<const std::uint8_t> bytes);
+
+ private:
+  Serial_Backend* backend = nullptr;
+  bool open = false;
+};
+
+inline MSComm MSComm1;
+
+}  // namespace wrenbit
