@@ -1,0 +1,50 @@
+#include "catalogue.h"
+
+#include "catalogue_text.h"
+#include "code_page_932.h"
+#include "number_text.h"
+#include "settings.h"
+#include "whole_file.h"
+#include "windows.h"
+
+namespace wrenbit {
+namespace {
+
+constexpr std::size_t kNameWidth = 9;  // Fixed-pitch characters before the second word.
+
+void Show_Version() {
+  const std::string text = "WRENBIT.INI  " + CatalogueVersionText;
+  frmAbout.Label_wrenbit_rev.Set_Caption(text);
+  frmMain.Ensure_Loaded();
+  frmMain.Label_wrenbitini.Set_Caption(text);
+}
+
+void List_Devices() {
+  UpdatingControls = -1;
+  frmMain.Combo_device.Clear();
+  for (const Device_Row& row : DeviceTable) {
+    const std::size_t width = Characters(row[kName]);
+    const std::string gap(width < kNameWidth ? kNameWidth - width : 0, ' ');
+    frmMain.Combo_device.AddItem(row[kName] + gap + row[kNameTail]);
+  }
+  const long stored = Get_Number_Setting(key::kDut, 0);
+  if (!frmMain.Combo_device.Set_ListIndex(static_cast<int>(stored))) frmMain.Combo_device.Set_ListIndex(0);
+  UpdatingControls = 0;
+}
+
+}  // namespace
+
+bool Load_Catalogue(std::vector<std::string>& problems) {
+  const std::optional<std::string> file = Read_Whole_File(AppFolder + kCatalogueName);
+  if (!file) return false;
+  Catalogue catalogue = Read_Catalogue(Utf8_From_Cp932(*file));
+  if (catalogue.Rows.empty()) return false;
+  DeviceTable = std::move(catalogue.Rows);
+  CatalogueVersionText = std::move(catalogue.Version);
+  problems = std::move(catalogue.Problems);
+  Show_Version();
+  List_Devices();
+  return true;
+}
+
+}  // namespace wrenbit

@@ -1,0 +1,79 @@
+#include "catalogue_text.h"
+
+#include <algorithm>
+
+#include "number_text.h"
+#include "text_field_reader.h"
+
+namespace wrenbit {
+namespace {
+
+struct Number_Column {
+  Column At;
+  const char* Name;
+};
+constexpr std::array<Number_Column, 5> kNumberColumns{{{kFamily, "ファミリ"},
+                                                       {kMemSize, "メモリサイズ"},
+                                                       {kPageSize, "ページサイズ"},
+                                                       {kAddressMode, "アドレスモード"},
+                                                       {kAddressBits, "アドレスビット数"}}};
+
+bool Holds_Number_Or_Nothing(const std::string& cell) { return cell.empty() || Whole_Number(cell); }
+
+std::string Line_Text(int line) { return std::to_string(line) + "行目: "; }
+
+void Add_Row(Catalogue& catalogue, std::string_view record, int line) {
+  const auto cells = Split_Line(record);
+  if (catalogue.Rows.size() == kTableRows) {
+    catalogue.Problems.push_back(Line_Text(line) + cells[kName] + " は" + std::to_string(kTableRows) +
+                                 "行を超えたため読み込みませんでした。");
+    return;
+  }
+  Device_Row row;
+  std::copy_n(cells.begin(), kTableColumns, row.begin());
+  for (const auto& [column, name] : kNumberColumns)
+    if (const std::string& cell = row[column]; !Holds_Number_Or_Nothing(cell))
+      catalogue.Problems.push_back(Line_Text(line) + row[kName] + " の列" + std::to_string(column) + " (" +
+                                   name + ") の \"" + cell + "\" は数値ではありません。0とします。");
+  catalogue.Rows.push_back(std::move(row));
+}
+
+}  // namespace
+
+std::string Expand_Tabs(std::string_view record) {
+  std::string expanded;
+  for (const char c : record) c == '\t' ? expanded.append(8, ' ') : expanded.append(1, c);
+  return expanded;
+}
+
+std::array<std::string, kLineCells> Split_Line(std::string_view record) {
+  std::string parted(record);
+  if (const std::size_t equals = parted.find('='); equals != parted.npos) parted.replace(equals, 1, " = ");
+  std::array<std::string, kLineCells> cells;
+  std::string_view rest = Trim(parted);
+  for (std::string& cell : cells) {
+    const std::size_t end = std::min(rest.find(' '), rest.size());
+    cell = rest.substr(0, end);
+    rest = Trim(rest.substr(end));
+  }
+  return cells;
+}
+
+Catalogue Read_Catalogue(std::string_view text) {
+  Catalogue catalogue;
+  for (Text_Field_Reader reader(text, Quotes::Honoured); !reader.At_End();) {
+    const std::string expanded = Expand_Tabs(reader.Next());
+    const std::string_view record = Trim(expanded);
+    if (record.find("Ver") != record.npos)
+      catalogue.Version = record;
+    else if (!record.empty() && record.find(';') == record.npos)
+      Add_Row(catalogue, record, reader.Line());
+  }
+  return catalogue;
+}
+
+std::int32_t Number_Cell(const Device_Row& row, Column column) {
+  return Whole_Number(row[column]).value_or(0);
+}
+
+}  // namespace wrenbit

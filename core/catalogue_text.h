@@ -1,0 +1,58 @@
+// The text of the device catalogue taken apart: records into device rows, a version, and what is wrong with
+// them.
+//
+//   Ver 1.00                  the version record: any record with "Ver" in it
+//   ; a comment               any record with ";" in it, data before it included
+//   24C02  I2C  2  8  8 ...   a device row: tokens between blanks or tabs
+//
+// A record ends at a line end or a comma; in double quotes it runs to the next one.
+#pragma once
+
+#include <array>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "state.h"
+
+namespace wrenbit {
+
+// The columns of a device row. Behind the last one, up to kTableColumns, they are kept and not used.
+enum Column {
+  kName,
+  kNameTail,     // Shown behind the name.
+  kFamily,       // 2 = 24Cxx, 3 = 93Cxx.
+  kMemSize,      // The chip holds 2^n bytes.
+  kPageSize,     // Bytes.
+  kAddressMode,  // 24Cxx: 1 = one address byte, else two.
+  kAddressBits,  // 93Cxx.
+  kStatusText,   // Panel 4.
+  kSupply,
+  kEndurance,
+  kDensity,
+  kWriteSpeed,
+  kClockSpeed,
+};
+
+inline constexpr int kLineCells = 65;
+
+// Eight blanks for each tab, wherever it stands.
+std::string Expand_Tabs(std::string_view record);
+
+// The tokens between blanks, from cell 0 on, the rest empty. The first "=" is a token of its own. Tokens
+// behind the last cell are dropped.
+std::array<std::string, kLineCells> Split_Line(std::string_view record);
+
+struct Catalogue {
+  std::vector<Device_Row> Rows;       // At most kTableRows.
+  std::string Version;                // The last version record, trimmed.
+  std::vector<std::string> Problems;  // One line each, in Japanese: rows left out, numbers that are none.
+};
+
+// UTF-8 in. Any text gives a catalogue, if an empty one.
+Catalogue Read_Catalogue(std::string_view text);
+
+// A number column as the program uses it: empty and no number are 0.
+std::int32_t Number_Cell(const Device_Row& row, Column column);
+
+}  // namespace wrenbit

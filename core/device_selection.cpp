@@ -1,0 +1,74 @@
+#include "device_selection.h"
+
+#include <algorithm>
+
+#include "catalogue_text.h"
+#include "frm_main.h"
+#include "hex_grid.h"
+#include "image_buffer.h"
+#include "settings.h"
+
+namespace wrenbit {
+namespace {
+
+constexpr int kSmallestBlock = 4;  // As a power of two: 16 bytes.
+
+std::string Size_Text() {
+  // A power that no chip has would not fit the number either.
+  const long bytes = MemSize >= 0 && MemSize < 31 ? 1L << MemSize : 0;
+  const std::string memory = "Mem. Size: " + std::to_string(bytes) + " byte";
+  switch (DeviceFamily) {
+    case 2:
+      return memory + "\r\nPage Size: " + std::to_string(PageSize) + " byte";
+    case 3:
+      return memory;
+    default:
+      return "";
+  }
+}
+
+std::string Spec_Text(const Device_Row& row) {
+  if (DeviceFamily != 2 && DeviceFamily != 3) return "";
+  return "VDD:" + row[kSupply] + " Endurance:" + row[kEndurance] + " Density:" + row[kDensity] +
+         " WriteSpeed:" + row[kWriteSpeed] + " ClockSpeed:" + row[kClockSpeed] + " ";
+}
+
+// One entry for each power of two up to the chip's size. The size chosen before stays, if the chip is that
+// large.
+void Rebuild_Block_Sizes() {
+  ComboBox& sizes = frmMain.CmbSize;
+  const int before = sizes.ListIndex();
+  sizes.Clear();
+  if (!Image_Usable()) return;
+  for (int exponent = kSmallestBlock; exponent <= MemSize; ++exponent)
+    sizes.AddItem(std::to_string(1L << exponent));
+  sizes.Set_ListIndex(std::clamp(before, 0, sizes.ListCount() - 1));
+}
+
+}  // namespace
+
+void Combo_device_Click() {
+  const int index = frmMain.Combo_device.ListIndex();
+  const Device_Row& row = DeviceTable.at(static_cast<std::size_t>(index));
+  DeviceFamily = Number_Cell(row, kFamily);
+  MemSize = Number_Cell(row, kMemSize);
+  PageSize = Number_Cell(row, kPageSize);
+  AddressMode = Number_Cell(row, kAddressMode);
+  AddressBits = Number_Cell(row, kAddressBits);
+  DeviceStatusText = row[kStatusText];
+  frmMain.sbStatusBar.Set_Panel(4, DeviceStatusText);
+  frmMain.Lbl_PageSize.Set_Caption(Size_Text());
+  frmMain.Lbl_Spec.Set_Caption(Spec_Text(row));
+  frmMain.sbStatusBar.Set_Panel(1, "しばらくお待ちください。");
+  Buffer_Init();
+  SaveSetting(key::kDut, std::to_string(frmMain.Combo_device.ListIndex()));
+  frmMain.sbStatusBar.Set_Panel(1, "");
+  Rebuild_Block_Sizes();
+}
+
+void CmbSize_Click() {
+  SaveSetting(key::kAccessSize, std::to_string(frmMain.CmbSize.ListIndex()));
+  AccessSize = frmMain.CmbSize.ListIndex() + kSmallestBlock;
+}
+
+}  // namespace wrenbit

@@ -1,0 +1,13 @@
+// The selection of a device and of the block size.
+#pragma once
+
+namespace wrenbit {
+
+// Makes the row of Combo_device the working context: device values, labels, a blank image in the grid, and a
+// block-size list that fits the chip. Stores the choice. What the image held is gone.
+void Combo_device_Click();
+
+// Takes the block size from CmbSize and stores the choice.
+void CmbSize_Click();
+
+}  // namespace wrenbit

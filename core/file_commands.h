@@ -1,0 +1,18 @@
+// The two file commands: Intel HEX in and out, through the file dialogs.
+#pragma once
+
+#include <string>
+
+namespace wrenbit {
+
+// Loads a file into a blank image of the selected device and shows it. Cancelled, or without such a file,
+// nothing changes but panel 1.
+void mnuFileOpen_Click();
+
+// Saves the whole image. A file that is there stands until the new one is whole.
+void mnuFileSaveAs_Click();
+
+// The path up to, not including, the character before the first place where the title stands in it.
+std::string Folder_Of(const std::string& path, const std::string& title);
+
+}  // namespace wrenbit

@@ -1,0 +1,88 @@
+#include "transfer_commands.h"
+
+#include "c24_block.h"
+#include "c24_byte.h"
+#include "c24_control.h"
+#include "cell_selection.h"
+#include "frm_main.h"
+#include "hex_grid.h"
+#include "image_buffer.h"
+#include "mscomm.h"
+#include "state.h"
+
+namespace wrenbit {
+namespace {
+
+// Everything that could disturb a transfer, or be disturbed by it.
+void Set_Commands_Enabled(bool enabled) {
+  for (Control* control : std::initializer_list<Control*>{
+           &frmMain.MSFGrid1, &frmMain.Cmd_READ_all, &frmMain.Cmd_READ_single, &frmMain.Cmd_WRITE_all,
+           &frmMain.Cmd_WRITE_single, &frmMain.Frame1, &frmMain.Combo_device, &frmMain.CmbSize,
+           &frmMain.Cmd_Open, &frmMain.Cmd_SaveAs, &frmMain.Cmd_Port, &frmMain.mnuFileOpen,
+           &frmMain.mnuFileSaveAs, &frmMain.mnuFileExit, &frmMain.mnuBufferClear, &frmMain.mnuToolsOptions,
+           &frmMain.mnuHelpContents, &frmMain.mnuHelpAbout})
+    control->Set_Enabled(enabled);
+}
+
+void No_93Cxx_Engine() { Refuse_Transfer("93Cxxの転送にはまだ対応していません。"); }
+
+using Engine = void (*)();
+void Run_Engine(Engine c24, Engine c93) {
+  if (DeviceFamily == 2) c24();
+  if (DeviceFamily == 3) c93();
+}
+
+}  // namespace
+
+void Command_Lock() {
+  TransferRunning = -1;
+  Set_Commands_Enabled(false);
+  frmMain.sbStatusBar.Set_Panel(1, "");
+  frmMain.sbStatusBar.Set_Panel(2, "");
+  LinkError = 0;
+}
+
+void Command_Unlock() {
+  Set_Commands_Enabled(true);
+  frmMain.Text_modify_hex.Set_Focus();
+  MSComm1.Close();
+  TransferRunning = 0;
+  if (CloseWhenIdle) frmMain.Unload();
+}
+
+void Cmd_READ_all_Click() {
+  Command_Lock();
+  frmMain.sbStatusBar.Set_Panel(1, "読み出し中.....");
+  Image_Create();
+  Run_Engine(C24_AllRead, No_93Cxx_Engine);
+  if (LinkError == 0) Grid_Refill();
+  Command_Unlock();
+}
+
+void Cmd_WRITE_all_Click() {
+  Command_Lock();
+  frmMain.sbStatusBar.Set_Panel(1, "書き込み中.....");
+  Run_Engine(C24_AllWrite, No_93Cxx_Engine);
+  MSFGrid1_Click();
+  Command_Unlock();
+}
+
+void Cmd_READ_single_Click() {
+  Command_Lock();
+  Run_Engine(C24_ByteRead, No_93Cxx_Engine);
+  Command_Unlock();
+}
+
+void Cmd_WRITE_single_Click() {
+  Command_Lock();
+  Run_Engine(C24_ByteWrite, No_93Cxx_Engine);
+  Command_Unlock();
+}
+
+void Main_Window_Close() {
+  if (!TransferRunning) return frmMain.Unload();
+  CloseWhenIdle = -1;
+  LinkError = 1;
+}
+
+}  // namespace wrenbit

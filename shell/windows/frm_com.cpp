@@ -1,0 +1,63 @@
+#include "frm_com.h"
+
+#include "com_ports.h"
+#include "mscomm.h"
+#include "number_text.h"
+#include "platform.h"
+#include "settings.h"
+#include "window_events.h"
+
+namespace wrenbit {
+namespace {
+
+void Save_Line(const char* key, const CheckBox& box) { SaveSetting(key, box.Value() == 0 ? "0" : "1"); }
+
+// Selecting the stored port opens it, as a pick of the user's does.
+void Form_Load() {
+  MSComm1.Close();
+  frmCom.Cmb_com.Clear();
+  for (int number = 1; number <= kComPorts; ++number) frmCom.Cmb_com.AddItem(std::to_string(number));
+  frmCom.Cmb_com.Set_ListIndex(static_cast<int>(Get_Number_Setting(key::kComNo, 0)));
+  frmCom.CheckRTS.Set_Value(Get_Number_Setting(key::kRts, 1) != 0);
+  frmCom.CheckDTR.Set_Value(Get_Number_Setting(key::kDtr, 0) != 0);
+}
+
+void Form_Unload() {
+  MSComm1.Close();
+  Save_Line(key::kRts, frmCom.CheckRTS);
+  Save_Line(key::kDtr, frmCom.CheckDTR);
+}
+
+// The open only tries the port. The pick stays stored when it fails: the next transfer tries that port.
+void Cmb_com_Click() {
+  MSComm1.Close();
+  SaveSetting(key::kComNo, std::to_string(frmCom.Cmb_com.ListIndex()));
+  MSComm1.CommPort = frmCom.Cmb_com.ListIndex() + 1;
+  if (MSComm1.Open() != Port_Fault::None)
+    MsgBox("指定した通信ポートは使用できませんでした。", Message_Icon::Critical, Message_Buttons::Ok,
+           App.Title);
+}
+
+void Cmd_Close_Click() {
+  MSComm1.Close();
+  frmCom.Unload();
+}
+
+}  // namespace
+
+void Wire_frmCom() {
+  frmCom.Form_Load = Form_Load;
+  frmCom.Form_Unload = Form_Unload;
+  frmCom.Cmb_com.Click = Cmb_com_Click;
+  frmCom.Cmd_Close.Click = Cmd_Close_Click;
+  frmCom.CheckRTS.Click = [] {
+    DoEvents();
+    Save_Line(key::kRts, frmCom.CheckRTS);
+  };
+  frmCom.CheckDTR.Click = [] {
+    DoEvents();
+    Save_Line(key::kDtr, frmCom.CheckDTR);
+  };
+}
+
+}  // namespace wrenbit

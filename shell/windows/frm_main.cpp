@@ -1,0 +1,79 @@
+#include "frm_main.h"
+
+#include <cstdio>
+
+#include "cell_selection.h"
+#include "device_selection.h"
+#include "file_commands.h"
+#include "hex_grid.h"
+#include "number_text.h"
+#include "platform.h"
+#include "settings.h"
+#include "state.h"
+#include "transfer_commands.h"
+#include "window_events.h"
+#include "windows.h"
+
+namespace wrenbit {
+namespace {
+
+constexpr double kFirstPosition = 1000;  // Twips.
+
+double Stored_Position(const char* name) {
+  return Decimal_Number(GetSetting(name, "")).value_or(kFirstPosition);
+}
+
+// Without trailing zeros: "1000", "1000.5".
+std::string Position_Text(double twips) {
+  char text[32];
+  std::snprintf(text, sizeof text, "%.10g", twips);
+  return text;
+}
+
+// The block sizes stand until the first device is selected.
+void Form_Load() {
+  frmMain.Move(Stored_Position(key::kMainLeft), Stored_Position(key::kMainTop));
+  frmMain.CmbSize.Clear();
+  for (long size = 16; size <= 131072; size *= 2) frmMain.CmbSize.AddItem(std::to_string(size));
+  if (!frmMain.CmbSize.Set_ListIndex(static_cast<int>(Get_Number_Setting(key::kAccessSize, 0))))
+    frmMain.CmbSize.Set_ListIndex(0);
+}
+
+void Form_Unload() {
+  if (!frmMain.Minimised()) {
+    SaveSetting(key::kMainLeft, Position_Text(frmMain.Left()));
+    SaveSetting(key::kMainTop, Position_Text(frmMain.Top()));
+  }
+  ThePlatform->End();
+}
+
+void Show_frmCom() { frmCom.Show_Modal(); }
+
+}  // namespace
+
+void Wire_frmMain() {
+  frmMain.Form_Load = Form_Load;
+  frmMain.Form_Unload = Form_Unload;
+  frmMain.Close_Asked = Main_Window_Close;
+
+  frmMain.Combo_device.Click = Combo_device_Click;
+  frmMain.CmbSize.Click = CmbSize_Click;
+  frmMain.MSFGrid1.Click = MSFGrid1_Click;
+
+  frmMain.Cmd_READ_all.Click = Cmd_READ_all_Click;
+  frmMain.Cmd_WRITE_all.Click = Cmd_WRITE_all_Click;
+  frmMain.Cmd_READ_single.Click = Cmd_READ_single_Click;
+  frmMain.Cmd_WRITE_single.Click = Cmd_WRITE_single_Click;
+  frmMain.Cmd_Open.Click = mnuFileOpen_Click;
+  frmMain.Cmd_SaveAs.Click = mnuFileSaveAs_Click;
+  frmMain.Cmd_Port.Click = Show_frmCom;
+
+  frmMain.mnuFileOpen.Click = mnuFileOpen_Click;
+  frmMain.mnuFileSaveAs.Click = mnuFileSaveAs_Click;
+  frmMain.mnuFileExit.Click = Main_Window_Close;
+  frmMain.mnuBufferClear.Click = mnuBufferClear_Click;
+  frmMain.mnuToolsOptions.Click = Show_frmCom;
+  frmMain.mnuHelpAbout.Click = [] { frmAbout.Show_Modal(); };
+}
+
+}  // namespace wrenbit
