@@ -1,0 +1,41 @@
+// The pseudo terminal behind which a board stands, as a serial port would.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "descriptor.h"
+#include "wire_end.h"
+
+namespace board {
+
+enum class Pace : std::uint8_t {
+  kAtOnce,
+  kWire,  // No reply earlier than 9600 baud 8N1 would carry it.
+};
+
+class Board_Terminal {
+ public:
+  // Opens a terminal in raw mode. From here on SIGINT, SIGTERM and SIGHUP do nothing but end Serve, so one
+  // process has one terminal. Throws std::system_error.
+  Board_Terminal();
+
+  // The device that the PC opens, as often as it likes.
+  const std::string& Device() const { return Name; }
+
+  // Carries bytes between the PC and `end` until a signal asks for the stop. A PC that doesn't read loses the
+  // replies that the terminal can't hold. Throws std::system_error, and what `end` throws.
+  void Serve(Wire_End& end, Pace pace);
+
+ private:
+  // A claim to the port for one program alone (TIOCEXCL) ends when the last holder closes the port. Here that
+  // is never, since the slave is held open, and a PC program that was killed would shut out all that follow.
+  void Unclaim();
+
+  Descriptor Master;
+  Descriptor Slave;     // Held open, or the master would see a hang-up each time the PC closes the port.
+  Descriptor Closings;  // Readable when the PC has closed the port; none where the system gives no watch.
+  std::string Name;
+};
+
+}  // namespace board

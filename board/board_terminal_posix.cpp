@@ -1,0 +1,148 @@
+#include <fcntl.h>
+#include <poll.h>
+#include <signal.h>
+#include <stdlib.h>
+#include <sys/inotify.h>
+#include <sys/ioctl.h>
+#include <termios.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <chrono>
+#include <deque>
+
+#include "board_terminal.h"
+
+namespace board {
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+using Nanoseconds = std::chrono::nanoseconds;
+
+constexpr std::size_t kMostWaiting = 4096;  // Replies in bytes, beyond those in the terminal itself.
+
+volatile sig_atomic_t StopAsked = 0;
+sigset_t MaskWhileWaiting;  // Signals get through in ppoll and nowhere else, so no system call is cut short.
+
+void On_Stop_Signal(int) { StopAsked = 1; }
+
+void Hold_Stop_Signals() {
+  struct sigaction action {};
+  action.sa_handler = On_Stop_Signal;
+  sigset_t held;
+  sigemptyset(&held);
+  for (const int number : {SIGINT, SIGTERM, SIGHUP}) {
+    sigaction(number, &action, nullptr);
+    sigaddset(&held, number);
+  }
+  sigprocmask(SIG_BLOCK, &held, &MaskWhileWaiting);
+  for (const int number : {SIGINT, SIGTERM, SIGHUP}) sigdelset(&MaskWhileWaiting, number);
+  signal(SIGPIPE, SIG_IGN);  // Whoever reads our output may go; the link must still be removed.
+}
+
+// When bytes get through: the wire carries one after the other, in each direction by itself.
+class Wire_Schedule {
+ public:
+  explicit Wire_Schedule(Pace pace)
+      : ByteTime(pace == Pace::kWire ? Nanoseconds(10'000'000'000 / 9600) : Nanoseconds(0)) {}
+
+  Clock::time_point Arrival(Clock::time_point sent) { return InFree = std::max(InFree, sent) + ByteTime; }
+  Clock::time_point Departure(Clock::time_point said) { return OutFree = std::max(OutFree, said) + ByteTime; }
+
+ private:
+  Nanoseconds ByteTime;
+  Clock::time_point InFree, OutFree;
+};
+
+struct Waiting {
+  std::uint8_t Byte;
+  Clock::time_point Due;
+};
+
+// Takes what the PC sent, lets the board answer, and lines the answers up.
+void Take_In(int master, Wire_End& end, Wire_Schedule& wire, std::deque<Waiting>& replies) {
+  std::array<std::uint8_t, 512> bytes;
+  const ssize_t got = read(master, bytes.data(), bytes.size());
+  if (got < 0 && errno == EAGAIN) return;
+  if (got < 0) Throw_Errno("reading from the terminal");
+  const auto now = Clock::now();
+  for (std::size_t i = 0; i < static_cast<std::size_t>(got); ++i) {
+    const Answer answer = end.Receive(bytes[i]);
+    const auto late = std::chrono::duration_cast<Nanoseconds>(std::chrono::duration<double>(answer.Late));
+    const auto said = wire.Arrival(now) + late;
+    for (const std::uint8_t byte : answer.Bytes) {
+      if (replies.size() < kMostWaiting) replies.push_back({byte, wire.Departure(said)});
+    }
+  }
+}
+
+// Hands the PC all replies that are due, as far as the terminal takes them.
+void Put_Out(int master, std::deque<Waiting>& replies) {
+  std::array<std::uint8_t, 512> bytes;
+  std::size_t count = 0;
+  const auto now = Clock::now();
+  while (count < std::min(replies.size(), bytes.size()) && replies[count].Due <= now) {
+    bytes[count] = replies[count].Byte;
+    ++count;
+  }
+  const ssize_t put = write(master, bytes.data(), count);
+  if (put < 0 && errno != EAGAIN) Throw_Errno("writing to the terminal");
+  if (put > 0) replies.erase(replies.begin(), replies.begin() + put);
+}
+
+}  // namespace
+
+Board_Terminal::Board_Terminal() : Master(posix_openpt(O_RDWR | O_NOCTTY | O_CLOEXEC | O_NONBLOCK)) {
+  if (!Master || grantpt(*Master) != 0 || unlockpt(*Master) != 0) Throw_Errno("opening a pseudo terminal");
+  std::array<char, 128> name;
+  if (ptsname_r(*Master, name.data(), name.size()) != 0) Throw_Errno("naming the pseudo terminal");
+  Name = name.data();
+  Slave = Descriptor(open(Name.c_str(), O_RDWR | O_NOCTTY | O_CLOEXEC));
+  termios mode{};
+  if (!Slave || tcgetattr(*Slave, &mode) != 0) Throw_Errno(Name);
+  cfmakeraw(&mode);
+  cfsetspeed(&mode, B9600);
+  if (tcsetattr(*Slave, TCSANOW, &mode) != 0) Throw_Errno(Name);
+  Closings = Descriptor(inotify_init1(IN_NONBLOCK | IN_CLOEXEC));
+  if (Closings) inotify_add_watch(*Closings, Name.c_str(), IN_CLOSE);
+  Hold_Stop_Signals();
+}
+
+void Board_Terminal::Serve(Wire_End& end, Pace pace) {
+  Wire_Schedule wire(pace);
+  std::deque<Waiting> replies;
+  while (!StopAsked) {
+    pollfd files[] = {{.fd = *Master, .events = POLLIN, .revents = 0},
+                      {.fd = *Closings, .events = POLLIN, .revents = 0}};
+    auto& [master, closings] = files;
+    timespec until_due{};
+    bool waits_for_due = false;
+    if (!replies.empty()) {
+      const auto left = std::chrono::duration_cast<Nanoseconds>(replies.front().Due - Clock::now()).count();
+      waits_for_due = left > 0;
+      if (waits_for_due) {
+        until_due = {.tv_sec = left / 1'000'000'000, .tv_nsec = left % 1'000'000'000};
+      } else {
+        master.events |= POLLOUT;
+      }
+    }
+    if (ppoll(files, std::size(files), waits_for_due ? &until_due : nullptr, &MaskWhileWaiting) < 0) {
+      if (errno == EINTR) continue;
+      Throw_Errno("waiting for the terminal");
+    }
+    if (closings.revents & POLLIN) Unclaim();
+    if (master.revents & POLLOUT) Put_Out(*Master, replies);
+    if (master.revents & POLLIN) Take_In(*Master, end, wire, replies);
+  }
+}
+
+void Board_Terminal::Unclaim() {
+  std::array<char, 4096> events;
+  while (read(*Closings, events.data(), events.size()) > 0) continue;
+  ioctl(*Slave, TIOCNXCL);
+}
+
+}  // namespace board

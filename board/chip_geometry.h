@@ -1,0 +1,24 @@
+// What the data sheets say of each two-wire part.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <span>
+#include <string_view>
+
+namespace board {
+
+struct Chip_Geometry {
+  std::string_view Name;
+  std::size_t Bytes;            // A power of two.
+  std::size_t Page;             // Bytes in one write cycle, a power of two.
+  int AddressBytes;             // 1 or 2 behind the control byte, highest first.
+  std::uint8_t ControlAddress;  // Bits of the control byte that carry the top of the address.
+  std::uint8_t ControlZero;     // Bits of the control byte that the chip wants low.
+  double WriteCycle;            // Seconds at most; the model always takes them all.
+};
+
+// In order of size, the makers' plain numbers first.
+std::span<const Chip_Geometry> Two_Wire_Chips();
+
+}  // namespace board

@@ -1,0 +1,83 @@
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstdlib>
+#include <stdexcept>
+
+#include "com_port_link.h"
+
+namespace board {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+// The XDG Base Directory rules: a relative path in the variable doesn't count.
+fs::path Ports_Folder() {
+  const char* xdg = std::getenv("XDG_CONFIG_HOME");
+  const char* home = std::getenv("HOME");
+  fs::path config;
+  if (xdg && *xdg == '/') {
+    config = xdg;
+  } else if (home && *home) {
+    config = fs::path(home) / ".config";
+  } else {
+    throw std::runtime_error("neither XDG_CONFIG_HOME nor HOME says where the ports are");
+  }
+  fs::create_directories(config / "wrenbit" / "ports");
+  return config / "wrenbit" / "ports";
+}
+
+fs::path With_Suffix(fs::path path, const char* suffix) { return path += suffix; }
+
+// A board's link leads to a pseudo terminal and has its lock beside it. Nothing else may be replaced.
+void Refuse_Foreign(const fs::path& link, const fs::path& lock) {
+  const auto status = fs::symlink_status(link);
+  if (!fs::exists(status)) return;
+  const bool ours =
+      fs::is_symlink(status) && fs::read_symlink(link).parent_path() == "/dev/pts" && fs::exists(lock);
+  if (!ours)
+    throw std::runtime_error(link.string() + " is there and was not made by a board; it is left alone");
+}
+
+bool Names_File(const fs::path& path, int file) {
+  struct stat named {
+  }, open{};
+  return stat(path.c_str(), &named) == 0 && fstat(file, &open) == 0 && named.st_dev == open.st_dev &&
+         named.st_ino == open.st_ino;
+}
+
+}  // namespace
+
+Com_Port_Lock::Com_Port_Lock(const fs::path& link) : Path(With_Suffix(link, ".lock")) {
+  Refuse_Foreign(link, Path);
+  // A board that ends may remove the file between the open and the lock; a lock on a nameless file keeps
+  // nobody out.
+  do {
+    File = Descriptor(open(Path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0666));
+    if (!File) Throw_Errno(Path.string());
+    if (flock(*File, LOCK_EX | LOCK_NB) == 0) continue;
+    if (errno != EWOULDBLOCK) Throw_Errno(Path.string());
+    throw std::runtime_error("another board is on " + link.filename().string() + " (" + link.string() + ")");
+  } while (!Names_File(Path, *File));
+}
+
+Com_Port_Lock::~Com_Port_Lock() { unlink(Path.c_str()); }
+
+Com_Port_Link::Com_Port_Link(int number, const std::string& device)
+    : Path(Ports_Folder() / ("COM" + std::to_string(number))), Device(device), Lock(Path) {
+  const fs::path made = With_Suffix(Path, ".new");
+  fs::remove(made);
+  fs::create_symlink(Device, made);
+  fs::rename(made, Path);
+}
+
+Com_Port_Link::~Com_Port_Link() {
+  std::error_code ignored;
+  if (fs::read_symlink(Path, ignored) == Device) fs::remove(Path, ignored);
+}
+
+}  // namespace board

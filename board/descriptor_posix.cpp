@@ -1,0 +1,18 @@
+#include <unistd.h>
+
+#include <cerrno>
+#include <system_error>
+
+#include "descriptor.h"
+
+namespace board {
+
+Descriptor::~Descriptor() {
+  if (Number >= 0) close(Number);
+}
+
+void Throw_Errno(const std::string& subject) {
+  throw std::system_error(errno, std::generic_category(), subject);
+}
+
+}  // namespace board

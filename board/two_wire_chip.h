@@ -1,0 +1,56 @@
+// A two-wire EEPROM at the level of its pins.
+#pragma once
+
+#include <cstdint>
+#include <map>
+#include <optional>
+
+#include "cell_store.h"
+#include "chip_geometry.h"
+#include "chip_socket.h"
+
+namespace board {
+
+class Two_Wire_Chip : public Chip {
+ public:
+  // Both must outlive the chip.
+  Two_Wire_Chip(const Chip_Geometry& geometry, Cell_Store& cells) : Part(geometry), Cells(cells) {}
+
+  void Sense(const Levels& levels, double now) override;
+  Drive Drives_Line(Line line) const override;
+
+ private:
+  enum class Phase : std::uint8_t { kStandby, kReceive, kAcknowledge, kSend, kAnswer };
+  enum class Meaning : std::uint8_t { kControl, kAddress, kData };
+
+  void On_Start();
+  void On_Stop();
+  void On_Clock(bool bit);
+
+  bool Accept(std::uint8_t byte);
+  void Listen();
+  void Send_Cell();
+  void Stand_By();
+
+  const Chip_Geometry& Part;
+  Cell_Store& Cells;
+
+  bool Powered = false;
+  bool Scl = false;
+  bool Sda = false;
+  double Now = 0;               // Seconds of wire time.
+  double BusyUntil = 0;         // End of the write cycle.
+  std::optional<bool> Sampled;  // The data line at the clock's rise; empty until the clock has risen.
+  Phase State = Phase::kStandby;
+  Meaning Next = Meaning::kControl;  // What the byte that comes in will be.
+  bool PullsSda = false;
+  bool Reading = false;    // The master's choice in the control byte.
+  std::uint8_t Shift = 0;  // The byte that goes over the bus, highest bit first.
+  int Bits = 0;            // Those of it that have passed.
+  int AddressBytesLeft = 0;
+  std::size_t Word = 0;                      // The address as it comes in.
+  std::size_t Pointer = 0;                   // The chip's address counter.
+  std::map<std::size_t, std::uint8_t> Page;  // Bytes that wait for the write cycle, by address.
+};
+
+}  // namespace board
