@@ -1,0 +1,81 @@
+// The selection of a device and of the block size.
+#include "device_selection.h"
+
+#include <gtest/gtest.h>
+
+#include "catalogue_text.h"
+#include "frm_main.h"
+#include "test_bench.h"
+
+namespace wrenbit {
+namespace {
+
+struct Device_Selection : testing::Test {
+  Test_Bench bench;
+  void SetUp() override {
+    DeviceTable = Read_Catalogue(
+                      "24C02   I2C       2 8  8   1 0 2Kbit  1.8-5.5V 1M 256x8    5ms  400kHz\n"
+                      "AT93C46 Microwire 3 7  0   0 7 1Kbit  2.7-5.5V 1M 128x8    10ms 2MHz\n"
+                      "24C00   I2C       2 4  1   1 0 128bit 1.8-5.5V 1M 16x8     4ms  400kHz\n"
+                      "24C1024 I2C       2 17 128 2 0 1Mbit  1.8-5.5V 1M 131072x8 5ms  400kHz\n"
+                      "BARE\n")
+                      .Rows;
+    frmMain.Ensure_Loaded();
+    for (const Device_Row& row : DeviceTable) frmMain.Combo_device.AddItem(row[0]);
+  }
+  static void Select(int row) { frmMain.Combo_device.Set_ListIndex(row); }
+};
+
+TEST_F(Device_Selection, SetsEveryValueAndLabel) {
+  Select(0);
+  EXPECT_EQ(frmMain.Lbl_PageSize.Caption(), "Mem. Size: 256 byte\r\nPage Size: 8 byte");
+  EXPECT_EQ(frmMain.Lbl_Spec.Caption(),
+            "VDD:1.8-5.5V Endurance:1M Density:256x8 WriteSpeed:5ms ClockSpeed:400kHz ");
+  EXPECT_EQ(frmMain.sbStatusBar.Panel(1), "");
+  EXPECT_EQ(frmMain.sbStatusBar.Panel(4), "2Kbit");
+  EXPECT_EQ(DeviceFamily, 2);
+  EXPECT_EQ(AddressMode, 1);
+  EXPECT_EQ(ImageBuffer, Bytes(256, 0xFF));
+  EXPECT_EQ(bench.Stored["DUT"], "0");
+
+  ImageBuffer.assign(256, 0);
+  Select(1);
+  EXPECT_EQ(frmMain.Lbl_PageSize.Caption(), "Mem. Size: 128 byte");
+  EXPECT_EQ(AddressBits, 7);
+  EXPECT_EQ(ImageBuffer, Bytes(128, 0xFF));
+  EXPECT_EQ(frmMain.LblCheckSUM.Caption(), "CheckSum:7F80");
+  EXPECT_EQ(bench.Stored["DUT"], "1");
+}
+
+TEST_F(Device_Selection, ARowWithOnlyANameGivesNothing) {
+  Select(0);
+  Select(4);
+  EXPECT_EQ(DeviceFamily, 0);
+  EXPECT_EQ(MemSize, 0);
+  EXPECT_EQ(frmMain.Lbl_PageSize.Caption(), "");
+  EXPECT_EQ(frmMain.Lbl_Spec.Caption(), "");
+  EXPECT_EQ(frmMain.CmbSize.ListCount(), 0);
+  Select(0);
+  EXPECT_EQ(frmMain.CmbSize.ListCount(), 5);
+}
+
+TEST_F(Device_Selection, TheBlockSizeFollowsTheChipDownAndNotUpAgain) {
+  const struct {
+    int Before, Row, Entries, After;
+  } cases[] = {{8, 1, 4, 3}, {2, 1, 4, 2}, {3, 1, 4, 3}, {13, 2, 1, 0}, {3, 3, 14, 3}, {13, 3, 14, 13}};
+  for (const auto& c : cases) {
+    SCOPED_TRACE(std::to_string(c.Before) + " on row " + std::to_string(c.Row));
+    Select(3);
+    frmMain.CmbSize.Set_ListIndex(c.Before);
+    Select(c.Row);
+    EXPECT_EQ(frmMain.CmbSize.ListCount(), c.Entries);
+    EXPECT_EQ(frmMain.CmbSize.ListIndex(), c.After);
+    EXPECT_EQ(AccessSize, c.After + 4);
+    EXPECT_EQ(bench.Stored["AccessSize"], std::to_string(c.After));
+  }
+  Select(3);
+  EXPECT_EQ(frmMain.CmbSize.List(13), "131072");
+}
+
+}  // namespace
+}  // namespace wrenbit

@@ -1,0 +1,119 @@
+// Load and save through the dialogs: texts, titles, remembered folders, and what a refusal leaves behind.
+#include "file_commands.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+
+#include "frm_main.h"
+#include "hex_grid.h"
+#include "state.h"
+#include "test_bench.h"
+
+namespace wrenbit {
+namespace {
+
+struct File_Commands : testing::Test {
+  Test_Bench bench;
+  std::filesystem::path folder;
+  CommonDialog& dialog = frmMain.dlgCommonDialog;
+  std::string Answer;  // The path that the user picks; empty cancels.
+
+  void SetUp() override {
+    std::string name = testing::TempDir() + "/files-XXXXXX";
+    folder = mkdtemp(name.data());
+    dialog.View_Open = dialog.View_Save = [this] {
+      if (Answer.empty()) return false;
+      dialog.FileName = Answer;
+      dialog.FileTitle = std::filesystem::path(Answer).filename().string();
+      return true;
+    };
+    MainTitle = "Title  ";
+    MemSize = 7;
+    Buffer_Init();
+  }
+  void TearDown() override {
+    dialog.View_Open = dialog.View_Save = nullptr;
+    std::filesystem::remove_all(folder);
+  }
+  static std::string Contents(const std::filesystem::path& path) {
+    std::ifstream file(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+  }
+  static const std::string& Message() { return frmMain.sbStatusBar.Panel(1); }
+};
+
+TEST_F(File_Commands, ASavedImageComesBack) {
+  for (std::size_t i = 0; i < 128; ++i) ImageBuffer[i] = static_cast<std::uint8_t>(i * 3);
+  const Bytes image = ImageBuffer;
+  Answer = (folder / "a.hex").string();
+  mnuFileSaveAs_Click();
+  EXPECT_EQ(Message(), "ファイルに保存終了。 ");
+  EXPECT_EQ(frmMain.Caption(), "Title  " + Answer);
+  EXPECT_EQ(bench.Stored["SAVE_DIR"], folder.string());
+  EXPECT_EQ(Contents(Answer).size(), 373U);
+
+  Buffer_Init();
+  mnuFileOpen_Click();
+  EXPECT_EQ(ImageBuffer, image);
+  EXPECT_EQ(frmMain.MSFGrid1.Cell(8, 16), "0x7D");
+  EXPECT_EQ(Message(), "ファイルオープン完了");
+  EXPECT_EQ(frmMain.Caption(), "Title  " + Answer);
+  EXPECT_EQ(bench.Stored["OPEN_DIR0"], folder.string());
+  EXPECT_EQ(frmMain.MousePointer(), Pointer::Default);
+}
+
+TEST_F(File_Commands, ACancelledOrMissingFileChangesNothing) {
+  ImageBuffer[0] = 1;
+  const std::string caption = frmMain.Caption();
+  for (const std::string& answer : {std::string(), (folder / "none.hex").string(), folder.string()}) {
+    SCOPED_TRACE(answer);
+    Answer = answer;
+    mnuFileOpen_Click();
+    EXPECT_EQ(Message(), "ファイルをオープンできませんでした。");
+  }
+  Answer.clear();
+  mnuFileSaveAs_Click();
+  EXPECT_EQ(Message(), "ファイル保存をキャンセルしました。");
+  EXPECT_EQ(ImageBuffer[0], 1);
+  EXPECT_EQ(frmMain.Caption(), caption);
+  EXPECT_TRUE(bench.Stored.empty());
+}
+
+TEST_F(File_Commands, AnExistingFileIsAskedForAndStandsWhenRefused) {
+  Answer = (folder / "a.hex").string();
+  std::ofstream(Answer) << "old";
+  bench.Box_Answer = false;
+  mnuFileSaveAs_Click();
+  EXPECT_EQ(bench.Boxes, std::vector<std::string>{"上書き保存 | ファイルが存在します。上書きしますか？"});
+  EXPECT_EQ(Message(), "ファイル保存をキャンセルしました。");
+  EXPECT_EQ(Contents(Answer), "old");
+  EXPECT_EQ(HexFilePath, Answer);
+  EXPECT_TRUE(bench.Stored.empty());
+
+  bench.Box_Answer = true;
+  mnuFileSaveAs_Click();
+  EXPECT_EQ(Contents(Answer).substr(0, 9), ":10000000");
+}
+
+TEST_F(File_Commands, WhatCannotBeWrittenIsToldWithItsReason) {
+  Answer = (folder / "no such folder" / "a.hex").string();
+  mnuFileSaveAs_Click();
+  ASSERT_EQ(bench.Boxes.size(), 1U);
+  EXPECT_NE(bench.Boxes[0].find(Answer), std::string::npos);
+  EXPECT_EQ(Message(), "ファイルを保存できませんでした。");
+  EXPECT_EQ(frmMain.MousePointer(), Pointer::Default);
+}
+
+TEST(Folder_Of_A_Path, EndsBeforeTheSeparatorInFrontOfTheFirstTitle) {
+  EXPECT_EQ(Folder_Of("/data/a.hex", "a.hex"), "/data");
+  EXPECT_EQ(Folder_Of("C:\\data\\a.hex", "a.hex"), "C:\\data");
+  EXPECT_EQ(Folder_Of("C:\\a.hex", "a.hex"), "C:");
+  EXPECT_EQ(Folder_Of("/a.hex", "a.hex"), "");
+  EXPECT_EQ(Folder_Of("a.hex", "a.hex"), "");
+}
+
+}  // namespace
+}  // namespace wrenbit

@@ -1,0 +1,171 @@
+// Transfers that fail: no board, no chip, a board that dies, lines that stick, rows that are wrong, a window
+// that closes. Whatever happens, the socket loses its supply where the board still hears, the port closes,
+// the controls come back, and the image is what it should be.
+#include "chip_bench.h"
+#include "faulty_board.h"
+#include "transfer_commands.h"
+
+namespace wrenbit {
+namespace {
+
+struct Command {
+  const char* Name;
+  void (*Run)();
+  bool Writes;
+  bool Blanks;  // Makes the image anew.
+};
+const Command kCommands[] = {{"block read", Cmd_READ_all_Click, false, true},
+                             {"block write", Cmd_WRITE_all_Click, true, false},
+                             {"byte read", Cmd_READ_single_Click, false, false},
+                             {"byte write", Cmd_WRITE_single_Click, true, false}};
+
+void Expect_Given_Back(const Chip_Bench& bench) {
+  EXPECT_FALSE(bench.Is_Open());
+  for (const Control* control : frmMain.Controls()) EXPECT_TRUE(control->Reachable());
+  EXPECT_EQ(frmMain.ActiveControl(), &frmMain.Text_modify_hex);
+}
+
+TEST(C24_Failure, EachFaultEndsWithItsTextAndLeavesTheImageAsItShouldBe) {
+  const struct {
+    const char* Name;
+    std::string Chip;
+    std::function<void(Chip_Bench&)> Fault;
+    const char* Panel1;
+  } faults[] = {
+      {"nothing on the port", "24C02", [](Chip_Bench& b) { b.Board = nullptr; },
+       "プログラマ接続確認エラー。【1】"},
+      {"port in use", "24C02", [](Chip_Bench& b) { b.Refusal = Port_Fault::In_Use; },
+       "プログラマ接続確認エラー。【1】ポートは使用中です。"},
+      {"unknown board", "24C02", [](Chip_Bench& b) { b.Programmer.Identify_As("SOME OTHER BOARD 9.00"); },
+       "プログラマ接続確認エラー。"},
+      {"no chip", "", [](Chip_Bench&) {}, "24Cxx Power on PortA error"},
+      {"SDA stuck low", "24C02", [](Chip_Bench& b) { b.Programmer.Socket().Stick(board::Line::kSda, false); },
+       "24Cxx Power on PortA error"},
+      {"SDA stuck high", "24C02", [](Chip_Bench& b) { b.Programmer.Socket().Stick(board::Line::kSda, true); },
+       "24Cxx Power on PortA error"},
+  };
+  for (const auto& fault : faults)
+    for (const char* firmware : {"4.90", "5.00"})
+      for (const Command& command : kCommands) {
+        SCOPED_TRACE(std::string(fault.Name) + ", " + firmware + ", " + command.Name);
+        Chip_Bench bench(fault.Chip, firmware);
+        fault.Fault(bench);
+        bench.Fill_Image(1);
+        const Bytes image = ImageBuffer;
+        const std::string cell(frmMain.MSFGrid1.Cell(1, 1));
+        command.Run();
+        EXPECT_EQ(LinkError, 1);
+        EXPECT_EQ(Panel(1), fault.Panel1);
+        Expect_Given_Back(bench);
+        EXPECT_EQ(bench.Programmer.Latch('b') & 0x40, 0) << "supply off";
+        if (command.Blanks)
+          EXPECT_EQ(Bytes(ImageBuffer.begin() + 1, ImageBuffer.end()), Bytes(ImageBuffer.size() - 1, 0xFF));
+        else
+          EXPECT_EQ(ImageBuffer, image);
+        EXPECT_EQ(frmMain.MSFGrid1.Cell(1, 1), cell) << "the grid does not follow";
+        if (bench.Cells) {
+          EXPECT_EQ(bench.Chip_Contents(), Bytes(256, 0xFF));
+        }
+      }
+}
+
+TEST(C24_Failure, ABoardThatDiesInMidTransferIsNoticedAndEndsIt) {
+  for (const bool unplugged : {true, false})
+    for (const Command& command : kCommands) {
+      SCOPED_TRACE(std::string(command.Name) + (unplugged ? ", unplugged" : ", silent"));
+      Chip_Bench bench("24C02", "5.00");
+      bench.Fill_Chip(1);
+      board::Faulty_Board dying(bench.Programmer,
+                                unplugged ? board::Faults{.GoneAt = 40} : board::Faults{.SilentFrom = 40});
+      bench.Board = &dying;
+      const double before = bench.Now();
+      command.Run();
+      EXPECT_EQ(LinkError, 1);
+      EXPECT_EQ(Panel(1), "24Cxx Power on PortA error");
+      Expect_Given_Back(bench);
+      // Unplugged costs no wait at all; silence costs a second for each reply that is still asked for.
+      EXPECT_LT(bench.Now() - before, unplugged ? 1.0 : 60.0);
+    }
+}
+
+TEST(C24_Failure, WhatWasReadBeforeAFaultStaysInTheImage) {
+  Chip_Bench bench("24C02", "5.00");
+  bench.Fill_Chip(1);
+  board::Faulty_Board dying(bench.Programmer, {.SilentFrom = 100});
+  bench.Board = &dying;
+  Cmd_READ_all_Click();
+  const Bytes chip = bench.Chip_Contents();
+  const auto good =
+      std::mismatch(ImageBuffer.begin(), ImageBuffer.end(), chip.begin()).first - ImageBuffer.begin();
+  EXPECT_GT(good, 10);
+  EXPECT_EQ(ImageBuffer[static_cast<std::size_t>(good)], 0) << "the byte in hand is not to be trusted";
+  EXPECT_EQ(Bytes(ImageBuffer.begin() + good + 1, ImageBuffer.end()),
+            Bytes(ImageBuffer.size() - static_cast<std::size_t>(good) - 1, 0xFF));
+}
+
+TEST(C24_Failure, ARowThatCannotBeRightIsRefusedBeforeThePortIsTouched) {
+  const struct {
+    const char* Name;
+    int MemSize, PageSize, AddressMode;
+    bool OnlyBlockWrite;
+  } rows[] = {
+      {"no size", 0, 8, 1, false},           {"too small", 3, 8, 1, false},
+      {"absurd size", 40, 8, 2, false},      {"beyond one address byte", 12, 32, 1, false},
+      {"beyond 17 bits", 18, 128, 2, false}, {"no page", 8, 0, 1, true},
+      {"negative page", 8, -8, 1, true},
+  };
+  for (const auto& row : rows)
+    for (const Command& command : kCommands) {
+      if (row.OnlyBlockWrite && command.Run != Cmd_WRITE_all_Click) continue;
+      SCOPED_TRACE(std::string(row.Name) + ", " + command.Name);
+      Chip_Bench bench("24C02", "5.00");
+      Select_Device(2, row.MemSize, row.PageSize, row.AddressMode);
+      command.Run();
+      EXPECT_TRUE(bench.Opened.empty());
+      EXPECT_EQ(LinkError, 1);
+      EXPECT_NE(Panel(1), "");
+      Expect_Given_Back(bench);
+    }
+}
+
+TEST(C24_Failure, ClosingTheWindowInMidTransferPowersOffFirst) {
+  for (const Command& command : kCommands)
+    for (int at_yield = 1; at_yield < 200; ++at_yield) {
+      SCOPED_TRACE(std::string(command.Name) + ", yield " + std::to_string(at_yield));
+      Chip_Bench bench("24C02", "5.00");
+      int yields = 0;
+      bool asked_while_running = false;
+      bench.On_Yield = [&] {
+        if (++yields != at_yield) return;
+        asked_while_running = true;
+        frmMain.Close();
+        EXPECT_FALSE(bench.Ended);
+      };
+      command.Run();
+      if (!asked_while_running) break;
+      ASSERT_TRUE(bench.Ended);
+      ASSERT_FALSE(bench.Is_Open());
+      ASSERT_EQ(bench.Programmer.Latch('b') & 0x40, 0);
+      ASSERT_EQ(bench.Programmer.Direction('b'), 0xFF);
+      ASSERT_EQ(bench.Stored.count("MainLeft"), 1U);
+    }
+}
+
+TEST(C24_Failure, NothingElseCanBeReachedWhileATransferRuns) {
+  Chip_Bench bench("24C02", "5.00");
+  bool looked = false;
+  bench.On_Yield = [&] {
+    looked = true;
+    for (const Control* control :
+         {static_cast<Control*>(&frmMain.Cmd_READ_all), static_cast<Control*>(&frmMain.Text_modify_hex),
+          static_cast<Control*>(&frmMain.Combo_device), static_cast<Control*>(&frmMain.CmbSize),
+          static_cast<Control*>(&frmMain.Cmd_Port), static_cast<Control*>(&frmMain.MSFGrid1),
+          static_cast<Control*>(&frmMain.mnuFileExit), static_cast<Control*>(&frmMain.mnuHelpAbout)})
+      EXPECT_FALSE(control->Reachable());
+  };
+  Cmd_READ_single_Click();
+  EXPECT_TRUE(looked);
+}
+
+}  // namespace
+}  // namespace wrenbit

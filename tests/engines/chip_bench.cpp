@@ -1,0 +1,65 @@
+#include "chip_bench.h"
+
+#include <bit>
+
+#include "cell_address.h"
+#include "handshake.h"
+
+namespace wrenbit {
+
+Chip_Bench::Chip_Bench(const std::string& chip, const std::string& firmware, bool open_port)
+    : Programmer(firmware) {
+  Board = &Programmer;
+  const board::Chip_Geometry* geometry = board::Find_Chip(chip.empty() ? "24C02" : chip);
+  if (!chip.empty()) {
+    Cells = std::make_unique<board::Cell_Store>(geometry->Bytes);
+    Programmer.Insert(board::Make_Chip(chip, *Cells));
+  }
+  frmMain.Ensure_Loaded();
+  frmMain.CmbSize.Set_ListIndex(frmMain.CmbSize.ListCount() - 1);
+  Select_Device(2, std::countr_zero(geometry->Bytes), static_cast<int>(geometry->Page),
+                geometry->AddressBytes);
+  frmMain.Show();
+  if (open_port) {
+    Read_Version();
+    Forget_Traffic();
+  }
+}
+
+void Chip_Bench::Fill_Chip(unsigned seed) {
+  const Bytes pattern = Pattern(Cells->Cells().size(), seed);
+  for (std::size_t address = 0; address < pattern.size(); ++address) Cells->Write(address, pattern[address]);
+}
+
+void Chip_Bench::Fill_Image(unsigned seed) { ImageBuffer = Pattern(ImageBuffer.size(), seed); }
+
+void Select_Device(int family, int mem_size, int page_size, int address_mode) {
+  Device_Row row;
+  row[0] = "device";
+  row[2] = std::to_string(family);
+  row[3] = std::to_string(mem_size);
+  row[4] = std::to_string(page_size);
+  row[5] = std::to_string(address_mode);
+  row[7] = "density";
+  DeviceTable = {row};
+  frmMain.Combo_device.Clear();
+  frmMain.Combo_device.AddItem(row[0]);
+  frmMain.Combo_device.Set_ListIndex(0);
+}
+
+Bytes Pattern(std::size_t size, unsigned seed) {
+  Bytes pattern(size);
+  std::uint32_t state = seed * 2654435761U + 1;
+  for (std::uint8_t& byte : pattern) {
+    state = state * 1664525 + 1013904223;
+    byte = static_cast<std::uint8_t>(state >> 24);
+  }
+  return pattern;
+}
+
+void Select_Address(std::int32_t address) {
+  frmMain.MSFGrid1.Set_Row(address / kBytesPerRow + 1);
+  frmMain.MSFGrid1.Set_Col(address % kBytesPerRow + 1);
+}
+
+}  // namespace wrenbit

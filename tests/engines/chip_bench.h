@@ -1,0 +1,42 @@
+// The bench with the virtual board on the port and a chip in its socket.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string>
+
+#include "cell_store.h"
+#include "frm_main.h"
+#include "make_chip.h"
+#include "programmer_board.h"
+#include "state.h"
+#include "test_bench.h"
+
+namespace wrenbit {
+
+class Chip_Bench : public Test_Bench {
+ public:
+  // An empty name leaves the socket empty. The chip is selected as the device, with the board's own geometry,
+  // the whole chip as the block, and the main window shown.
+  Chip_Bench(const std::string& chip, const std::string& firmware, bool open_port = false);
+
+  std::unique_ptr<board::Cell_Store> Cells;
+  board::Programmer_Board Programmer;
+
+  Bytes Chip_Contents() const { return {Cells->Cells().begin(), Cells->Cells().end()}; }
+  void Fill_Chip(unsigned seed);
+  void Fill_Image(unsigned seed);
+};
+
+// Makes a device of a catalogue row and selects it as the user does.
+void Select_Device(int family, int mem_size, int page_size, int address_mode);
+
+// A pattern in which neighbours, rows and pages all differ.
+Bytes Pattern(std::size_t size, unsigned seed);
+
+void Select_Address(std::int32_t address);
+
+inline const std::string& Panel(int number) { return frmMain.sbStatusBar.Panel(number); }
+
+}  // namespace wrenbit

@@ -1,0 +1,109 @@
+#include "test_bench.h"
+
+#include <algorithm>
+
+#include "state.h"
+#include "wiring.h"
+
+namespace wrenbit {
+
+Test_Bench::Test_Bench() {
+  ThePlatform = this;
+  TheSettings = this;
+  MSComm1.Attach(this);
+  App = {};
+  Reset_State();
+  Wire_Windows();
+}
+
+Test_Bench::~Test_Bench() {
+  MSComm1.Close();
+  MSComm1.Attach(nullptr);
+  ThePlatform = nullptr;
+  TheSettings = nullptr;
+}
+
+void Test_Bench::Forget_Traffic() {
+  Sent.clear();
+  Commands.clear();
+  Received = Waits = 0;
+}
+
+void Test_Bench::DoEvents() {
+  if (On_Yield) On_Yield();
+}
+
+void Test_Bench::Await_Event(double seconds) {
+  ++Waits;
+  const auto next =
+      std::find_if(arriving.begin(), arriving.end(), [&](const Arrival& a) { return a.At > now; });
+  const double limit = now + std::max(seconds, 1e-6);
+  now = next == arriving.end() ? limit : std::min(limit, next->At);
+  DoEvents();
+}
+
+bool Test_Bench::MsgBox(const std::string& text, Message_Icon, Message_Buttons, const std::string& title) {
+  Boxes.push_back(title + " | " + text);
+  return Box_Answer;
+}
+
+std::string Test_Bench::Get(const std::string&, const std::string& key, const std::string& otherwise) {
+  const auto found = Stored.find(key);
+  return found == Stored.end() ? otherwise : found->second;
+}
+
+void Test_Bench::Save(const std::string&, const std::string& key, const std::string& value) {
+  Stored[key] = value;
+}
+
+Port_Fault Test_Bench::Open(int number, bool rts, bool dtr) {
+  if (Refusal != Port_Fault::None) return Refusal;
+  Opened.push_back("COM" + std::to_string(number) + (rts ? " RTS" : "") + (dtr ? " DTR" : ""));
+  arriving.clear();
+  open = true;
+  return Port_Fault::None;
+}
+
+std::size_t Test_Bench::Waiting() {
+  return static_cast<std::size_t>(
+      std::count_if(arriving.begin(), arriving.end(), [&](const Arrival& a) { return a.At <= now; }));
+}
+
+Bytes Test_Bench::Take() {
+  Bytes taken;
+  while (!arriving.empty() && arriving.front().At <= now) {
+    taken.push_back(arriving.front().Byte);
+    arriving.pop_front();
+  }
+  Received += taken.size();
+  return taken;
+}
+
+void Test_Bench::Drop() {
+  std::erase_if(arriving, [&](const Arrival& a) { return a.At <= now; });
+}
+
+void Test_Bench::Write(std::span<const std::uint8_t> bytes) {
+  Commands.emplace_back(bytes.begin(), bytes.end());
+  for (const std::uint8_t byte : bytes) {
+    Sent.push_back(byte);
+    out_free = std::max(out_free, now) + kByteTime;
+    if (!Board) continue;
+    const board::Answer answer = Board->Receive(byte);
+    for (const std::uint8_t said : answer.Bytes) {
+      back_free = std::max(back_free, out_free + answer.Late) + kByteTime;
+      arriving.push_back({back_free, said});
+    }
+  }
+}
+
+board::Answer Scripted_Board::Receive(std::uint8_t) {
+  ++received;
+  if (Replies.empty() || received < Replies.front().After) return {};
+  received = 0;
+  const Reply reply = Replies.front();
+  Replies.pop_front();
+  return {reply.Says, reply.Late};
+}
+
+}  // namespace wrenbit

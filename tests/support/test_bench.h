@@ -1,0 +1,100 @@
+// The bench on which the program's logic is tested without a screen or a port: a platform whose time moves
+// only when told, settings in memory, and a serial port with a 9600-baud wire in that time, to any board.
+#pragma once
+
+#include <deque>
+#include <functional>
+#include <map>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "mscomm.h"
+#include "platform.h"
+#include "settings.h"
+#include "wire_end.h"
+
+namespace wrenbit {
+
+using Bytes = std::vector<std::uint8_t>;
+
+class Test_Bench : private Platform, private Settings_Store, private Serial_Backend {
+ public:
+  // Everything global is as at the start of the process, and the bench stands behind it. One at a time.
+  Test_Bench();
+  ~Test_Bench() override;
+
+  // --- The port.
+  board::Wire_End* Board = nullptr;       // What hangs on it; nothing answers when null.
+  Port_Fault Refusal = Port_Fault::None;  // What the next open meets.
+  Bytes Sent;                             // All bytes that went out.
+  std::vector<Bytes> Commands;            // The same, a write each.
+  std::size_t Received = 0;               // Bytes that the program took.
+  std::size_t Waits = 0;                  // How often it rested for an event.
+  std::vector<std::string> Opened;        // "COM1 RTS DTR" for each open.
+  bool Is_Open() const { return open; }
+  // A byte that lies in the receive buffer now.
+  void Leave_In_Buffer(std::uint8_t byte) { arriving.push_back({now, byte}); }
+  void Forget_Traffic();
+
+  // --- The platform.
+  double Now() const { return now; }
+  void Pass(double seconds) { now += seconds; }
+  std::function<void()> On_Yield;  // Runs inside every yield.
+  std::vector<std::string> Boxes;  // Title, " | ", text of each message box.
+  bool Box_Answer = true;
+  bool Ended = false;
+
+  std::map<std::string, std::string> Stored;  // The settings, by key.
+
+ private:
+  struct Arrival {
+    double At;
+    std::uint8_t Byte;
+  };
+  static constexpr double kByteTime = 10.0 / 9600;
+
+  void DoEvents() override;
+  void Await_Event(double seconds) override;
+  double Timer() override { return now; }
+  void Sleep(int milliseconds) override { now += milliseconds / 1000.0; }
+  bool MsgBox(const std::string& text, Message_Icon, Message_Buttons, const std::string& title) override;
+  void Open_Address(const std::string&) override {}
+  void End() override { Ended = true; }
+
+  std::string Get(const std::string&, const std::string& key, const std::string& otherwise) override;
+  void Save(const std::string&, const std::string& key, const std::string& value) override;
+
+  Port_Fault Open(int number, bool rts, bool dtr) override;
+  void Close() override { open = false; }
+  bool Lost() override { return Board && Board->Gone(); }
+  std::size_t Waiting() override;
+  Bytes Take() override;
+  void Drop() override;
+  void Write(std::span<const std::uint8_t> bytes) override;
+
+  double now = 1000;
+  double out_free = 0;  // When the wire to the board is free again.
+  double back_free = 0;
+  std::deque<Arrival> arriving;
+  bool open = false;
+};
+
+// A board that says what a test tells it to: to the n-th command the n-th answer.
+class Scripted_Board : public board::Wire_End {
+ public:
+  // How many bytes make the commands that are answered, and the answers. Behind the last one it is silent.
+  struct Reply {
+    std::size_t After;
+    Bytes Says;
+    double Late = 0;
+  };
+  std::deque<Reply> Replies;
+
+  board::Answer Receive(std::uint8_t byte) override;
+
+ private:
+  std::size_t received = 0;
+};
+
+}  // namespace wrenbit
