@@ -1,0 +1,235 @@
+#include "control_views.h"
+
+#include <QAction>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QPushButton>
+#include <QStyleOption>
+
+#include "grid_view.h"
+#include "lists_and_boxes.h"
+#include "look.h"
+
+namespace wrenbit {
+namespace {
+
+QString Text_Of(const std::string& text) { return QString::fromStdString(text); }
+
+// Calls show now and after each change of the control.
+template <class Show>
+void Follow(Control& control, Show show) {
+  show();
+  control.Changed = std::move(show);
+}
+
+// The same for a widget at a place of its own, which also keeps to what every control has.
+template <class Widget, class Show>
+Widget* Placed(Widget* view, Control& control, Show show) {
+  view->setGeometry(Pixels(control.At));
+  view->setFont(Font_For(control.Lettering));
+  Follow(control, [view, &control, show] {
+    view->setEnabled(control.Enabled());
+    view->setVisible(control.Visible());
+    show();
+  });
+  return view;
+}
+
+// Looks as ever, but neither mouse nor keyboard gets there.
+void Withhold(QWidget* view) {
+  view->setAttribute(Qt::WA_TransparentForMouseEvents);
+  view->setFocusPolicy(Qt::NoFocus);
+}
+
+QWidget* Label_View(Label& label, QWidget* holder) {
+  auto* view = new QLabel(holder);
+  view->setTextFormat(Qt::PlainText);
+  view->setWordWrap(true);
+  view->setAlignment(Qt::AlignTop | (label.Align == Alignment::Left     ? Qt::AlignLeft
+                                     : label.Align == Alignment::Centre ? Qt::AlignHCenter
+                                                                        : Qt::AlignRight));
+  return Placed(view, label, [view, &label] { view->setText(Text_Of(label.Caption())); });
+}
+
+// A thin line around the group, with the caption standing in it. The style's own group box would lay the line
+// through what lies in the upper part of the group.
+class Group_Box : public QGroupBox {
+ public:
+  Group_Box(Frame& shown, QWidget* holder) : QGroupBox(holder), frame(shown) {}
+
+ protected:
+  void paintEvent(QPaintEvent*) override {
+    QPainter painter(this);
+    const int letters = fontMetrics().height();
+    painter.setPen(palette().color(QPalette::Mid));
+    painter.drawRect(rect().adjusted(0, letters / 2, -1, -1));
+    if (title().isEmpty()) return;
+    const QRect gap(8, 0, fontMetrics().horizontalAdvance(title()) + 6, letters);
+    painter.fillRect(gap, palette().window());
+    style()->drawItemText(&painter, gap, Qt::AlignCenter, palette(), isEnabled(), title(),
+                          QPalette::WindowText);
+  }
+  void mousePressEvent(QMouseEvent*) override {}  // Takes the press, so that the release comes here too.
+  void mouseReleaseEvent(QMouseEvent* event) override {
+    if (rect().contains(event->position().toPoint())) Fire(frame.Click);
+  }
+
+ private:
+  Frame& frame;
+};
+
+QWidget* Frame_View(Frame& frame, QWidget* holder) {
+  auto* view = new Group_Box(frame, holder);
+  return Placed(view, frame, [view, &frame] { view->setTitle(Text_Of(frame.Caption())); });
+}
+
+QWidget* Button_View(CommandButton& button, QWidget* holder) {
+  auto* view = new QPushButton(holder);
+  view->setAutoDefault(true);  // The enter key presses the button that has the focus.
+  QObject::connect(view, &QPushButton::clicked, view, [&button] { Fire(button.Click); });
+  return Placed(view, button, [view, &button] {
+    view->setText(Text_Of(button.Caption()));
+    view->setEnabled(button.Enabled() && button.Click);
+  });
+}
+
+QWidget* Text_Box_View(TextBox& box, QWidget* holder) {
+  auto* view = new QLineEdit(holder);
+  view->setMaxLength(box.MaxLength);
+  view->setReadOnly(!box.Change);
+  // A thin edge, because the box is hardly higher than its letters.
+  view->setStyleSheet(
+      QStringLiteral("QLineEdit { border: 1px solid palette(dark); background: palette(base); }"
+                     "QLineEdit:focus { border-color: palette(highlight); }"
+                     "QLineEdit:disabled { background: palette(window); }"));
+  QObject::connect(view, &QLineEdit::textEdited, view,
+                   [&box](const QString& text) { box.Set_Text(text.toStdString()); });
+  QObject::connect(view, &QLineEdit::selectionChanged, view, [view, &box] {
+    if (view->selectionLength() != box.SelLength()) box.Set_SelLength(view->selectionLength());
+  });
+  return Placed(view, box, [view, &box] {
+    const int selected = box.SelLength();  // A new text in the view takes the selection away, from both.
+    if (const QString text = Text_Of(box.Text()); view->text() != text) view->setText(text);
+    if (view->selectionLength() != selected) view->setSelection(0, selected);
+  });
+}
+
+// Without a caption there is hardly more room than the mark's, and the style would draw past it.
+class Bare_Check_Box : public QCheckBox {
+ public:
+  using QCheckBox::QCheckBox;
+
+ protected:
+  void paintEvent(QPaintEvent*) override {
+    QPainter painter(this);
+    QStyleOptionButton option;
+    initStyleOption(&option);
+    option.rect = rect().adjusted(0, 0, -1, -1);
+    style()->drawPrimitive(QStyle::PE_IndicatorCheckBox, &option, &painter, this);
+  }
+};
+
+QWidget* Check_Box_View(CheckBox& box, QWidget* holder) {
+  auto* view = box.Caption().empty() ? new Bare_Check_Box(holder) : new QCheckBox(holder);
+  if (!box.Click) Withhold(view);
+  QObject::connect(view, &QCheckBox::clicked, view, [&box](bool checked) { box.Set_Value(checked); });
+  return Placed(view, box, [view, &box] {
+    view->setText(Text_Of(box.Caption()));
+    view->setChecked(box.Value() != 0);
+  });
+}
+
+class Drop_Down : public QComboBox {
+ public:
+  using QComboBox::QComboBox;
+
+ protected:
+  // A wheel that only rolls past must not pick another chip, which costs the image.
+  void wheelEvent(QWheelEvent* event) override { event->ignore(); }
+};
+
+QWidget* Combo_Box_View(ComboBox& box, QWidget* holder) {
+  auto* view = new Drop_Down(holder);
+  if (!box.Click) Withhold(view);
+  QObject::connect(view, &QComboBox::activated, view, [&box](int index) { box.Set_ListIndex(index); });
+  return Placed(view, box, [view, &box] {
+    while (view->count() > box.ListCount()) view->removeItem(view->count() - 1);
+    for (int i = 0; i < box.ListCount(); ++i) {
+      if (i == view->count()) view->addItem({});
+      view->setItemText(i, Text_Of(box.List(i)));
+    }
+    view->setCurrentIndex(box.ListIndex());
+  });
+}
+
+constexpr int kNarrow = 88;  // Percent.
+
+QWidget* Status_Bar_View(StatusBar& bar, QWidget* holder) {
+  auto* view = new QWidget(holder);
+  std::array<QLabel*, StatusBar::kPanels> panels{};
+  int left = 0;
+  for (std::size_t i = 0; i < panels.size(); ++i) {
+    panels[i] = new QLabel(view);
+    panels[i]->setTextFormat(Qt::PlainText);
+    panels[i]->setFrameStyle(static_cast<int>(QFrame::Panel) | static_cast<int>(QFrame::Sunken));
+    panels[i]->setGeometry(Pixels(Place{left, 0, bar.Widths[i], bar.At.Height}).adjusted(1, 1, -1, -1));
+    left += bar.Widths[i];
+  }
+  return Placed(view, bar, [panels, &bar] {
+    for (int number = 1; QLabel * panel : panels) {
+      const QString whole = Text_Of(bar.Panel(number++));
+      const int room = panel->contentsRect().width();
+      // Somewhat narrower letters come before dots.
+      QFont letters = Font_For(bar.Lettering);
+      if (QFontMetrics(letters).horizontalAdvance(whole) > room) letters.setStretch(kNarrow);
+      panel->setFont(letters);
+      const QString fitting = QFontMetrics(letters).elidedText(whole, Qt::ElideRight, room);
+      panel->setText(fitting);
+      panel->setToolTip(fitting == whole ? QString() : whole);
+      panel->setAccessibleName(whole);
+    }
+  });
+}
+
+QWidget* Menu_View(Menu& menu, QWidget* holder) {
+  QMenu* drop_down = qobject_cast<QMenuBar*>(holder) ? new QMenu(holder) : nullptr;
+  QAction* action = drop_down ? drop_down->menuAction() : new QAction(holder);
+  action->setSeparator(menu.Separator());
+  holder->addAction(action);
+  QObject::connect(action, &QAction::triggered, action, [&menu] { Fire(menu.Click); });
+  Follow(menu, [action, &menu, offered = drop_down || menu.Click] {
+    action->setText(Text_Of(menu.Caption()));
+    action->setEnabled(offered && menu.Enabled());
+    action->setVisible(menu.Visible());
+  });
+  return drop_down;
+}
+
+QWidget* Grid_View_Of(FlexGrid& grid, QWidget* holder) {
+  auto* view = new Grid_View(grid, holder);
+  return Placed(view, grid, [view] { view->Follow(); });
+}
+
+}  // namespace
+
+QWidget* Make_View(Control& control, QWidget* holder) {
+  if (auto* label = dynamic_cast<Label*>(&control)) return Label_View(*label, holder);
+  if (auto* frame = dynamic_cast<Frame*>(&control)) return Frame_View(*frame, holder);
+  if (auto* button = dynamic_cast<CommandButton*>(&control)) return Button_View(*button, holder);
+  if (auto* box = dynamic_cast<TextBox*>(&control)) return Text_Box_View(*box, holder);
+  if (auto* box = dynamic_cast<CheckBox*>(&control)) return Check_Box_View(*box, holder);
+  if (auto* box = dynamic_cast<ComboBox*>(&control)) return Combo_Box_View(*box, holder);
+  if (auto* bar = dynamic_cast<StatusBar*>(&control)) return Status_Bar_View(*bar, holder);
+  if (auto* menu = dynamic_cast<Menu*>(&control)) return Menu_View(*menu, holder);
+  if (auto* grid = dynamic_cast<FlexGrid*>(&control)) return Grid_View_Of(*grid, holder);
+  return nullptr;
+}
+
+}  // namespace wrenbit

@@ -1,0 +1,155 @@
+#include "form_view.h"
+
+#include <QCloseEvent>
+#include <QEventLoop>
+#include <QLayout>
+#include <QMenuBar>
+#include <QScreen>
+#include <algorithm>
+
+#include "control_views.h"
+#include "look.h"
+
+namespace wrenbit {
+namespace {
+
+Qt::WindowFlags Flags(Form_Kind kind) {
+  constexpr Qt::WindowFlags bar = Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
+                                  Qt::WindowCloseButtonHint | Qt::MSWindowsFixedSizeDialogHint;
+  switch (kind) {
+    case Form_Kind::Dialog:
+      return Qt::Dialog | bar;
+    case Form_Kind::Splash:
+      return Qt::SplashScreen | Qt::FramelessWindowHint;
+    case Form_Kind::Main:
+      break;
+  }
+  return Qt::Window | bar | Qt::WindowMinimizeButtonHint;
+}
+
+// The rule under the menu bar looks sunken: a grey line and, 20 twips below, a white one.
+void Add_Sunken_Rule(QWidget* client) {
+  for (const auto& [top, colour] : {std::pair(0, 0x808080u), std::pair(Pixels(20), 0xFFFFFFu)}) {
+    auto* line = new QWidget(client);
+    line->setGeometry(0, top, client->width(), 1);
+    line->setPalette(QColor(colour));
+    line->setAutoFillBackground(true);
+  }
+}
+
+bool Is_Menu(const Control* control) { return dynamic_cast<const Menu*>(control) != nullptr; }
+
+}  // namespace
+
+Form_View::Form_View(Form& shown, Form_Kind what, QWidget* owner)
+    : QMainWindow(owner, Flags(what)), form(shown), kind(what) {
+  layout()->setSizeConstraint(QLayout::SetFixedSize);
+  if (kind == Form_Kind::Dialog) setWindowModality(Qt::ApplicationModal);
+  Make_Views();
+  Hook_Form();
+}
+
+Form_View::~Form_View() {
+  form.Changed = form.View_Hide = form.View_Move = nullptr;
+  form.View_Show = nullptr;
+  form.View_Focus = nullptr;
+  for (Control* control : form.Controls()) control->Changed = nullptr;
+}
+
+void Form_View::Make_Views() {
+  auto* client = new QWidget;
+  client->setFixedSize(Pixels(form.Client_Width), Pixels(form.Client_Height));
+  setCentralWidget(client);
+  if (std::any_of(form.Controls().begin(), form.Controls().end(), Is_Menu)) Add_Sunken_Rule(client);
+  for (Control* control : form.Controls()) {
+    QWidget* holder = control->Container() != &form ? View_Of(*control->Container())
+                      : Is_Menu(control)            ? menuBar()
+                                                    : client;
+    views[control] = Make_View(*control, holder);
+  }
+}
+
+void Form_View::Hook_Form() {
+  form.Changed = [this] {
+    setWindowTitle(QString::fromStdString(form.Caption()));
+    if (form.MousePointer() == Pointer::Hourglass)
+      setCursor(Qt::WaitCursor);
+    else
+      unsetCursor();
+  };
+  form.Changed();
+  form.View_Show = [this](bool modal) {
+    if (kind != Form_Kind::Main) Centre();
+    if (modal)
+      Show_Until_Hidden();
+    else
+      show();
+  };
+  form.View_Hide = [this] { hide(); };
+  form.View_Focus = [this](Control& control) {
+    if (QWidget* view = View_Of(control)) view->setFocus();
+  };
+  form.View_Move = [this] {
+    const QPoint place(Pixels(form.Left()), Pixels(form.Top()));
+    if (place == geometry().topLeft() - frame_corner) return;  // The form was told by Note_Position.
+    placed = place;
+    frame_corner = {};
+    move(place);
+  };
+}
+
+QWidget* Form_View::View_Of(const Control& control) const {
+  const auto found = views.find(&control);
+  return found == views.end() ? nullptr : found->second;
+}
+
+void Form_View::Centre() {
+  adjustSize();
+  const QPoint middle =
+      parentWidget() ? parentWidget()->frameGeometry().center() : screen()->geometry().center();
+  move(middle - rect().center());
+}
+
+void Form_View::Show_Until_Hidden() {
+  QEventLoop loop;
+  form.View_Hide = [this, &loop] {
+    hide();
+    loop.quit();
+  };
+  show();
+  loop.exec();
+  form.View_Hide = [this] { hide(); };
+}
+
+void Form_View::Note_Position() {
+  if (!isVisible() || isMinimized()) return;
+  // Qt learns of the frame late, and from some window managers never rightly. So the frame is measured while
+  // the window stands where it was put; from there on only moves of the window itself count.
+  if (pos() == placed) frame_corner = geometry().topLeft() - placed;
+  const QPoint place = geometry().topLeft() - frame_corner;
+  if (place !=
+      QPoint(Pixels(form.Left()), Pixels(form.Top())))  // Else the form keeps its fractions of a pixel.
+    form.Move(place.x() * kTwipsPerPixel, place.y() * kTwipsPerPixel);
+}
+
+bool Form_View::event(QEvent* event) {
+  const bool known = QMainWindow::event(event);
+  Note_Position();
+  return known;
+}
+
+void Form_View::closeEvent(QCloseEvent* event) {
+  event->ignore();  // Whether and when the window goes is the form's decision.
+  form.Close();
+}
+
+void Form_View::changeEvent(QEvent* event) {
+  if (event->type() == QEvent::WindowStateChange) form.Set_Minimised(isMinimized());
+  QMainWindow::changeEvent(event);
+}
+
+void Form_View::keyPressEvent(QKeyEvent* event) {
+  if (Key_Pressed) Key_Pressed(event->key());
+}
+
+}  // namespace wrenbit

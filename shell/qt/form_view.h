@@ -1,0 +1,50 @@
+// The view of a form: a window of fixed size with the views of all that lies on it.
+#pragma once
+
+#include <QMainWindow>
+#include <functional>
+#include <unordered_map>
+
+#include "form.h"
+
+namespace wrenbit {
+
+enum class Form_Kind {
+  Main,    // Stands where its form says; can be minimised.
+  Dialog,  // Centred on its owner, no entry in the task bar.
+  Splash,  // Bare, centred on the screen, no entry in the task bar.
+};
+
+class Form_View : public QMainWindow {
+ public:
+  // The form's events are wired before and its controls outlive the view.
+  Form_View(Form& shown, Form_Kind what, QWidget* owner = nullptr);
+  ~Form_View() override;
+
+  // The view of one of the form's controls; null for a menu's entry and for what is not shown at all.
+  QWidget* View_Of(const Control& control) const;
+
+  // A key that nothing on the window had a use for (Qt::Key).
+  std::function<void(int key)> Key_Pressed;
+
+ protected:
+  bool event(QEvent* event) override;
+  void closeEvent(QCloseEvent* event) override;
+  void changeEvent(QEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+
+ private:
+  void Make_Views();
+  void Hook_Form();
+  void Centre();
+  void Show_Until_Hidden();
+  void Note_Position();
+
+  Form& form;
+  const Form_Kind kind;
+  QPoint placed;        // Where the form put the corner of the window's frame.
+  QPoint frame_corner;  // From that corner to the window's own.
+  std::unordered_map<const Control*, QWidget*> views;
+};
+
+}  // namespace wrenbit

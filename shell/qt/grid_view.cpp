@@ -1,0 +1,162 @@
+#include "grid_view.h"
+
+#include <QKeyEvent>
+#include <QPainter>
+#include <QScrollBar>
+#include <algorithm>
+
+#include "look.h"
+
+namespace wrenbit {
+namespace {
+
+constexpr int kRowHeight = 16;
+constexpr int kPadding = 2;
+
+Qt::Alignment Text_Alignment(Alignment alignment) {
+  return Qt::AlignVCenter | (alignment == Alignment::Left     ? Qt::AlignLeft
+                             : alignment == Alignment::Centre ? Qt::AlignHCenter
+                                                              : Qt::AlignRight);
+}
+
+QString Text_Of(std::string_view text) {
+  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+}  // namespace
+
+Grid_View::Grid_View(FlexGrid& shown, QWidget* holder) : QAbstractScrollArea(holder), grid(shown) {
+  setFocusPolicy(Qt::StrongFocus);
+  setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+}
+
+int Grid_View::Rows_In_Sight() const { return std::max(viewport()->height() / kRowHeight - 1, 1); }
+
+int Grid_View::First_Row() const { return 1 + verticalScrollBar()->value(); }
+
+void Grid_View::Set_Scroll_Range() {
+  verticalScrollBar()->setPageStep(Rows_In_Sight());
+  verticalScrollBar()->setRange(0, std::max(grid.Rows() - 1 - Rows_In_Sight(), 0));
+}
+
+void Grid_View::Follow() {
+  Set_Scroll_Range();
+  if (grid.Row() != row_in_sight) {
+    row_in_sight = grid.Row();
+    const int line = row_in_sight - 1;
+    QScrollBar* bar = verticalScrollBar();
+    bar->setValue(std::clamp(bar->value(), line - Rows_In_Sight() + 1, std::max(line, 0)));
+  }
+  viewport()->update();
+}
+
+int Grid_View::Column_Left(int col) const {
+  if (col == 0) return 0;
+  int left = std::max(Pixels(grid.ColWidth(0)),
+                      fontMetrics().horizontalAdvance(Text_Of(grid.Cell(1, 0))) + 2 * kPadding);
+  for (int c = 1; c < col; ++c) left += Pixels(grid.ColWidth(c));
+  return left;
+}
+
+QRect Grid_View::Cell_Rect(int row, int col) const {
+  if (row < 0 || row >= grid.Rows() || col < 0 || col >= grid.Cols()) return {};
+  const int line = row == 0 ? 0 : row - First_Row() + 1;
+  if (row > 0 && line < 1) return {};
+  const int left = Column_Left(col);
+  const int right = col == grid.Cols() - 1 ? viewport()->width() : Column_Left(col + 1);
+  return QRect(left, line * kRowHeight, right - left, kRowHeight).intersected(viewport()->rect());
+}
+
+void Grid_View::paintEvent(QPaintEvent*) {
+  QPainter painter(viewport());
+  painter.setFont(font());
+  const QPalette::ColorGroup group = isEnabled() ? QPalette::Active : QPalette::Disabled;
+  const auto colour = [&](QPalette::ColorRole role) { return palette().color(group, role); };
+  painter.fillRect(viewport()->rect(), colour(QPalette::Base));
+
+  const auto paint_cell = [&](int row, int col) {
+    const QRect cell = Cell_Rect(row, col);
+    if (cell.isEmpty()) return;
+    const bool fixed = row == 0 || col == 0;
+    const bool current = !fixed && row == grid.Row() && col == grid.Col();
+    painter.fillRect(cell, colour(fixed ? QPalette::Button : current ? QPalette::Highlight : QPalette::Base));
+    painter.setPen(colour(fixed ? QPalette::Mid : QPalette::Midlight));
+    painter.drawLine(cell.bottomLeft(), cell.bottomRight());
+    painter.drawLine(cell.topRight(), cell.bottomRight());
+    painter.setPen(colour(fixed     ? QPalette::ButtonText
+                          : current ? QPalette::HighlightedText
+                                    : QPalette::Text));
+    painter.drawText(cell.adjusted(kPadding, 0, -kPadding, 0),
+                     static_cast<int>(Text_Alignment(grid.ColAlignment(col))) | Qt::TextSingleLine,
+                     Text_Of(grid.Cell(row, col)));
+    if (current && hasFocus()) {
+      painter.setPen(QPen(colour(QPalette::HighlightedText), 1, Qt::DotLine));
+      painter.drawRect(cell.adjusted(0, 0, -2, -2));
+    }
+  };
+  const int below = std::min(First_Row() + Rows_In_Sight() + 1, grid.Rows());
+  for (int col = 0; col < grid.Cols(); ++col) {
+    paint_cell(0, col);
+    for (int row = First_Row(); row < below; ++row) paint_cell(row, col);
+  }
+}
+
+void Grid_View::resizeEvent(QResizeEvent*) { Set_Scroll_Range(); }
+
+void Grid_View::scrollContentsBy(int, int) { viewport()->update(); }
+
+void Grid_View::mousePressEvent(QMouseEvent* event) {
+  if (event->button() != Qt::LeftButton) return;
+  const QPoint point = event->position().toPoint();
+  const int row = First_Row() + point.y() / kRowHeight - 1;
+  int col = 1;
+  while (col < grid.Cols() && !Cell_Rect(0, col).contains(point.x(), 0)) ++col;
+  // A fixed cell cannot become the current one.
+  if (point.y() < kRowHeight || col == grid.Cols() || row >= grid.Rows()) return;
+  grid.Set_Row(row);
+  grid.Set_Col(col);
+}
+
+void Grid_View::mouseReleaseEvent(QMouseEvent* event) {
+  if (event->button() == Qt::LeftButton && viewport()->rect().contains(event->position().toPoint()))
+    Fire(grid.Click);
+}
+
+void Grid_View::Move_To(int row, int col) {
+  if (grid.Rows() < 2 || grid.Cols() < 2) return;
+  grid.Set_Row(std::clamp(row, 1, grid.Rows() - 1));
+  grid.Set_Col(std::clamp(col, 1, grid.Cols() - 1));
+}
+
+void Grid_View::keyPressEvent(QKeyEvent* event) {
+  const int row = grid.Row();
+  const int col = grid.Col();
+  const bool whole_grid = event->modifiers() & Qt::ControlModifier;
+  switch (event->key()) {
+    case Qt::Key_Left:
+      return Move_To(row, col - 1);
+    case Qt::Key_Right:
+      return Move_To(row, col + 1);
+    case Qt::Key_Up:
+      return Move_To(row - 1, col);
+    case Qt::Key_Down:
+      return Move_To(row + 1, col);
+    case Qt::Key_PageUp:
+      return Move_To(row - Rows_In_Sight(), col);
+    case Qt::Key_PageDown:
+      return Move_To(row + Rows_In_Sight(), col);
+    case Qt::Key_Home:
+      return Move_To(whole_grid ? 1 : row, 1);
+    case Qt::Key_End:
+      return Move_To(whole_grid ? grid.Rows() - 1 : row, grid.Cols() - 1);
+    default:
+      event->ignore();
+  }
+}
+
+void Grid_View::focusInEvent(QFocusEvent*) { viewport()->update(); }
+
+void Grid_View::focusOutEvent(QFocusEvent*) { viewport()->update(); }
+
+}  // namespace wrenbit

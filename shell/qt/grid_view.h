@@ -1,0 +1,44 @@
+// The view of the grid: paints the cells that are in sight and nothing else, so that the grid's length costs
+// nothing.
+#pragma once
+
+#include <QAbstractScrollArea>
+
+#include "flex_grid.h"
+
+namespace wrenbit {
+
+// The header row and the address column stand still. The last column takes what width is left, a few pixels
+// less than its own when the scroll bar needs them.
+class Grid_View : public QAbstractScrollArea {
+ public:
+  Grid_View(FlexGrid& shown, QWidget* holder);
+
+  // Shows the grid as it has become; brings the current cell into sight when it has moved.
+  void Follow();
+
+  // Where a cell is painted, in the viewport. Empty when it is not in sight.
+  QRect Cell_Rect(int row, int col) const;
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+  void scrollContentsBy(int dx, int dy) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void focusInEvent(QFocusEvent* event) override;
+  void focusOutEvent(QFocusEvent* event) override;
+
+ private:
+  int Rows_In_Sight() const;  // Whole ones, below the header.
+  int First_Row() const;
+  int Column_Left(int col) const;
+  void Set_Scroll_Range();
+  void Move_To(int row, int col);
+
+  FlexGrid& grid;
+  int row_in_sight = -1;  // The current cell's row at the last look.
+};
+
+}  // namespace wrenbit

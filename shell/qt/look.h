@@ -1,0 +1,22 @@
+// How the twips, points and lettering of the controls come to the screen. Sizes are logical pixels at 96 dpi,
+// whatever the screen's own resolution, so that every text keeps its room; a high-DPI screen scales the
+// whole.
+#pragma once
+
+#include <QFont>
+#include <QRect>
+
+#include "control.h"
+
+namespace wrenbit {
+
+inline constexpr double kTwipsPerPixel = 15;
+
+int Pixels(double twips);
+// Both edges are rounded, so that what touches in twips touches on the screen.
+QRect Pixels(const Place& place);
+
+// "ＭＳ ゴシック" or "MS UI Gothic" where it is installed, else a Japanese font of the same kind.
+QFont Font_For(const Font& lettering);
+
+}  // namespace wrenbit

@@ -1,0 +1,6 @@
+#include "program.h"
+
+int main(int argc, char** argv) {
+  wrenbit::Program program(argc, argv);
+  if (program.Start()) program.Run();
+}

@@ -1,0 +1,102 @@
+#include "program.h"
+
+#include <QDir>
+#include <QLibraryInfo>
+#include <QStandardPaths>
+#include <QTranslator>
+
+#include "file_dialog.h"
+#include "look.h"
+#include "start.h"
+#include "windows.h"
+#include "wiring.h"
+
+namespace wrenbit {
+namespace {
+
+// The names that a screen reader says where no caption tells.
+void Name_Views(const Form_View& window) {
+  const std::pair<const Control&, const char*> names[] = {
+      {frmMain.Combo_device, "デバイス"},         {frmMain.CmbSize, "ブロックサイズ"},
+      {frmMain.Text_modify_hex, "データ 16進数"}, {frmMain.Text_modify_dec, "データ 10進数"},
+      {frmMain.Text_modify_asc, "データ 文字"},   {frmMain.MSFGrid1, "バッファ"},
+  };
+  for (const auto& [control, name] : names)
+    window.View_Of(control)->setAccessibleName(QString::fromUtf8(name));
+  for (std::size_t bit = 0; bit < frmMain.ChkBin.size(); ++bit)
+    window.View_Of(frmMain.ChkBin[bit])->setAccessibleName(QStringLiteral("ビット%1").arg(bit));
+}
+
+// The bits were made from the lowest up; the eye reads from the highest down.
+void Order_Tabs(const Form_View& window) {
+  const Control* before = &frmMain.Text_modify_asc;
+  for (auto bit = frmMain.ChkBin.rbegin(); bit != frmMain.ChkBin.rend(); before = &*bit++)
+    QWidget::setTabOrder(window.View_Of(*before), window.View_Of(*bit));
+}
+
+}  // namespace
+
+QString Config_Folder() {
+  return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + QStringLiteral("/wrenbit");
+}
+
+Program::Program(int& argc, char** argv)
+    : application(argc, argv),
+      instance(Config_Folder() + QStringLiteral("/instance.lock")),
+      settings(Config_Folder() + QStringLiteral("/settings.ini")),
+      serial((Config_Folder() + QStringLiteral("/ports")).toStdString()) {
+  QApplication::setApplicationName(QString::fromStdString(App.Title));
+  QApplication::setStyle(
+      QStringLiteral("fusion"));  // The only one that looks, and fits, alike on every desktop.
+  QApplication::setFont(Font_For({}));
+  // When the last window goes, the logic says whether the program ends.
+  QApplication::setQuitOnLastWindowClosed(false);
+  // Qt's own dialogs in Japanese, where its translations are installed.
+  auto* translator = new QTranslator(&application);
+  if (translator->load(QStringLiteral("qtbase_ja"), QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+    QApplication::installTranslator(translator);
+
+  App.Path = QApplication::applicationDirPath().toStdString();
+  QDir().mkpath(Config_Folder());
+  instance.setStaleLockTime(0);  // However old, the lock holds as long as its process lives.
+  App.PrevInstance = !instance.tryLock() && instance.error() == QLockFile::LockFailedError;
+
+  ThePlatform = &platform;
+  TheSettings = &settings;
+  MSComm1.Attach(&serial);
+  Wire_Windows();
+  Make_Windows();
+}
+
+Program::~Program() {
+  MSComm1.Close();
+  MSComm1.Attach(nullptr);
+  TheSettings = nullptr;
+  ThePlatform = nullptr;
+}
+
+void Program::Make_Windows() {
+  frmMain.Lbl_memo.Set_Visible(false);
+  main_window = std::make_unique<Form_View>(frmMain, Form_Kind::Main);
+  Name_Views(*main_window);
+  Order_Tabs(*main_window);
+  Offer_File_Dialogs(frmMain.dlgCommonDialog, main_window.get());
+
+  com_window = std::make_unique<Form_View>(frmCom, Form_Kind::Dialog, main_window.get());
+
+  about_window = std::make_unique<Form_View>(frmAbout, Form_Kind::Dialog, main_window.get());
+  about_window->Key_Pressed = [](int key) {
+    if (key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Escape) Fire(frmAbout.cmdOK.Click);
+  };
+
+  splash_window = std::make_unique<Form_View>(frmSplash, Form_Kind::Splash);
+  splash_window->Key_Pressed = [](int) { Fire(frmSplash.Form_KeyPress); };
+}
+
+bool Program::Start() { return Main(); }
+
+void Program::Run() {
+  if (!platform.Ended()) QApplication::exec();
+}
+
+}  // namespace wrenbit

@@ -1,0 +1,43 @@
+// The program with all that it stands on: the application object, the platform's seams, the settings, the
+// serial port and the views of the windows.
+#pragma once
+
+#include <QApplication>
+#include <QLockFile>
+#include <memory>
+
+#include "form_view.h"
+#include "qt_platform.h"
+#include "qt_serial.h"
+#include "qt_settings.h"
+
+namespace wrenbit {
+
+// wrenbit/ in the user's configuration folder: settings, instance lock, links to ports.
+QString Config_Folder();
+
+// The one instance in a process. Nothing shows until Start.
+class Program {
+ public:
+  Program(int& argc, char** argv);
+  ~Program();
+
+  // Brings up the windows. False when the program is to end at once.
+  bool Start();
+  // Lives on events until the program ends.
+  void Run();
+
+  Form_View& Main_Window() { return *main_window; }
+
+ private:
+  void Make_Windows();
+
+  QApplication application;
+  QLockFile instance;
+  Qt_Platform platform;
+  Qt_Settings settings;
+  Qt_Serial serial;
+  std::unique_ptr<Form_View> main_window, com_window, about_window, splash_window;
+};
+
+}  // namespace wrenbit

@@ -1,0 +1,65 @@
+#include "qt_platform.h"
+
+#include <QApplication>
+#include <QDesktopServices>
+#include <QMessageBox>
+#include <QThread>
+#include <QTimer>
+#include <QUrl>
+#include <cmath>
+
+namespace wrenbit {
+namespace {
+
+QMessageBox::Icon Icon_Of(Message_Icon icon) {
+  switch (icon) {
+    case Message_Icon::Critical:
+      return QMessageBox::Critical;
+    case Message_Icon::Question:
+      return QMessageBox::Question;
+    case Message_Icon::Warning:
+      return QMessageBox::Warning;
+    case Message_Icon::Information:
+      break;
+  }
+  return QMessageBox::Information;
+}
+
+}  // namespace
+
+void Qt_Platform::DoEvents() { QCoreApplication::processEvents(); }
+
+void Qt_Platform::Await_Event(double seconds) {
+  // A wait for events knows no limit of its own.
+  QTimer limit;
+  limit.setTimerType(Qt::PreciseTimer);
+  limit.setSingleShot(true);
+  limit.start(static_cast<int>(std::ceil(seconds * 1000)));
+  QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+}
+
+double Qt_Platform::Timer() { return static_cast<double>(clock.nsecsElapsed()) / 1e9; }
+
+void Qt_Platform::Sleep(int milliseconds) { QThread::msleep(static_cast<unsigned long>(milliseconds)); }
+
+bool Qt_Platform::MsgBox(const std::string& text, Message_Icon icon, Message_Buttons buttons,
+                         const std::string& title) {
+  QMessageBox box(Icon_Of(icon), QString::fromStdString(title),
+                  QString::fromStdString(text).replace(QStringLiteral("\r\n"), QStringLiteral("\n")),
+                  buttons == Message_Buttons::Ok ? QMessageBox::Ok : QMessageBox::Ok | QMessageBox::Cancel,
+                  QApplication::activeWindow());
+  box.setTextFormat(Qt::PlainText);
+  return box.exec() == QMessageBox::Ok;
+}
+
+void Qt_Platform::Open_Address(const std::string& address) {
+  QDesktopServices::openUrl(QUrl(QString::fromStdString(address)));
+}
+
+void Qt_Platform::End() {
+  ended = true;
+  // Not quit(), which asks each window to close, and each would refuse.
+  QCoreApplication::exit();
+}
+
+}  // namespace wrenbit

@@ -1,0 +1,96 @@
+#include "qt_serial.h"
+
+#include <QAbstractEventDispatcher>
+#include <QFileInfo>
+
+#include "com_ports.h"
+#include "serial_handle.h"
+
+namespace wrenbit {
+namespace {
+
+Port_Fault Fault_Of(QSerialPort::SerialPortError error, const QString& device) {
+  switch (error) {
+    case QSerialPort::DeviceNotFoundError:
+      return Port_Fault::No_Such_Port;
+    case QSerialPort::PermissionError: {
+      // QSerialPort says the same of a busy device and of a lock file that another holds.
+      const QFileInfo file(device);
+      return file.isReadable() && file.isWritable() ? Port_Fault::In_Use : Port_Fault::No_Permission;
+    }
+    case QSerialPort::ResourceError:
+      return Port_Fault::Gone;
+    default:
+      return Port_Fault::Refused;
+  }
+}
+
+}  // namespace
+
+Qt_Serial::Qt_Serial(std::filesystem::path ports_folder) : folder(std::move(ports_folder)) {
+  // A port that hangs up wakes the event loop over and over, with many errors, one or none, as the version of
+  // Qt has it. So the port itself is asked, each time the loop is about to rest.
+  QObject::connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock, &port,
+                   [this] { Lost(); });
+}
+
+Port_Fault Qt_Serial::Open(int number, bool rts, bool dtr) {
+  Close();
+  const auto device = Device_Of_Com(number, folder, In_Com_Order(Serial_Devices_Present()));
+  if (!device) return Port_Fault::No_Such_Port;
+
+  // Unless told otherwise the port runs at 9600 baud, 8N1, without flow control.
+  const QString path = QString::fromStdString(*device);
+  port.setPortName(path);
+  if (!port.open(QIODevice::ReadWrite)) return Fault_Of(port.error(), path);
+  // Pseudo terminals have neither line and refuse; they work all the same.
+  port.setRequestToSend(rts);
+  port.setDataTerminalReady(dtr);
+  Ask_For_Low_Latency(port.handle());
+  Drop();
+  return Port_Fault::None;
+}
+
+void Qt_Serial::Close() {
+  lost = false;
+  port.close();
+}
+
+bool Qt_Serial::Lost() {
+  if (!lost && port.isOpen() && Hung_Up(port.handle())) {
+    lost = true;
+    // Not here, where the port may be in the midst of its own work. That an event is queued also ends a wait.
+    QMetaObject::invokeMethod(
+        &port,
+        [this] {
+          if (lost) port.close();
+        },
+        Qt::QueuedConnection);
+  }
+  return lost;
+}
+
+std::size_t Qt_Serial::Waiting() {
+  if (lost || !port.isOpen()) return 0;
+  // Fetches what the kernel holds; without it the port knows only what the event loop has brought.
+  port.waitForReadyRead(0);
+  return static_cast<std::size_t>(port.bytesAvailable());
+}
+
+std::vector<std::uint8_t> Qt_Serial::Take() {
+  std::vector<std::uint8_t> bytes(Waiting());
+  port.read(reinterpret_cast<char*>(bytes.data()), static_cast<qint64>(bytes.size()));
+  return bytes;
+}
+
+void Qt_Serial::Drop() {
+  if (port.isOpen()) port.clear(QSerialPort::Input);
+}
+
+void Qt_Serial::Write(std::span<const std::uint8_t> bytes) {
+  if (Lost() || !port.isOpen()) return;
+  port.write(reinterpret_cast<const char*>(bytes.data()), static_cast<qint64>(bytes.size()));
+  port.flush();
+}
+
+}  // namespace wrenbit

@@ -1,0 +1,31 @@
+// The serial port of the real program.
+#pragma once
+
+#include <QSerialPort>
+#include <filesystem>
+
+#include "mscomm.h"
+
+namespace wrenbit {
+
+// Lives while the application object does.
+class Qt_Serial : public Serial_Backend {
+ public:
+  // The folder in which a link COMn names the device of that port.
+  explicit Qt_Serial(std::filesystem::path ports_folder);
+
+  Port_Fault Open(int number, bool rts, bool dtr) override;
+  void Close() override;
+  bool Lost() override;
+  std::size_t Waiting() override;
+  std::vector<std::uint8_t> Take() override;
+  void Drop() override;
+  void Write(std::span<const std::uint8_t> bytes) override;
+
+ private:
+  std::filesystem::path folder;
+  QSerialPort port;
+  bool lost = false;
+};
+
+}  // namespace wrenbit

@@ -1,0 +1,115 @@
+#include "grid_view.h"
+
+#include <gtest/gtest.h>
+
+#include <QImage>
+#include <QScrollBar>
+#include <QTest>
+
+#include "form.h"
+#include "form_view.h"
+
+namespace wrenbit {
+namespace {
+
+constexpr int kRows = 100;  // With the header.
+
+class GridView : public testing::Test {
+ protected:
+  GridView() {
+    form.Show();
+    grid.Set_Cols(18);
+    grid.Set_Rows(kRows);
+    for (int col = 0; col < 18; ++col) grid.Set_ColWidth(col, col == 0 ? 700 : col == 17 ? 2000 : 450);
+    grid.Set_Row(1);
+    grid.Set_Col(1);
+    grid.Click = [this] { ++clicks; };
+  }
+  void Click_At(int row, int col) {
+    QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, view.Cell_Rect(row, col).center());
+  }
+
+  Form form{10275, 7035};
+  FlexGrid grid{form, {135, 1800, 10005, 4560}, {.FixedPitch = true, .Points = 9}};
+  Form_View window{form, Form_Kind::Dialog};
+  Grid_View& view = dynamic_cast<Grid_View&>(*window.View_Of(grid));
+  int clicks = 0;
+};
+
+TEST_F(GridView, AClickMovesTheCurrentCellUnlessItIsAFixedOne) {
+  struct {
+    int row, col, then_row, then_col;
+  } const cases[] = {{2, 16, 2, 16}, {3, 17, 3, 17}, {0, 5, 3, 17}, {7, 0, 3, 17}, {1, 1, 1, 1}};
+  for (const auto& c : cases) {
+    clicks = 0;
+    Click_At(c.row, c.col);
+    EXPECT_EQ(clicks, 1) << c.row << ',' << c.col;
+    EXPECT_EQ(grid.Row(), c.then_row) << c.row << ',' << c.col;
+    EXPECT_EQ(grid.Col(), c.then_col) << c.row << ',' << c.col;
+  }
+}
+
+TEST_F(GridView, KeysMoveTheCurrentCellInSightAndClickNothing) {
+  const int page = view.verticalScrollBar()->pageStep();
+  struct {
+    Qt::Key key;
+    Qt::KeyboardModifier with;
+    int row, col;
+  } const cases[] = {{Qt::Key_Left, Qt::NoModifier, 1, 1},
+                     {Qt::Key_Up, Qt::NoModifier, 1, 1},
+                     {Qt::Key_Right, Qt::NoModifier, 1, 2},
+                     {Qt::Key_Down, Qt::NoModifier, 2, 2},
+                     {Qt::Key_End, Qt::NoModifier, 2, 17},
+                     {Qt::Key_Right, Qt::NoModifier, 2, 17},
+                     {Qt::Key_PageDown, Qt::NoModifier, 2 + page, 17},
+                     {Qt::Key_End, Qt::ControlModifier, kRows - 1, 17},
+                     {Qt::Key_Down, Qt::NoModifier, kRows - 1, 17},
+                     {Qt::Key_PageUp, Qt::NoModifier, kRows - 1 - page, 17},
+                     {Qt::Key_Home, Qt::NoModifier, kRows - 1 - page, 1},
+                     {Qt::Key_Home, Qt::ControlModifier, 1, 1}};
+  for (const auto& c : cases) {
+    QTest::keyClick(&view, c.key, c.with);
+    EXPECT_EQ(grid.Row(), c.row) << c.key;
+    EXPECT_EQ(grid.Col(), c.col) << c.key;
+    EXPECT_EQ(view.Cell_Rect(c.row, c.col).height(), view.Cell_Rect(0, 1).height()) << c.key;
+  }
+  EXPECT_EQ(clicks, 0);
+}
+
+TEST_F(GridView, ACellThatCodeMakesCurrentComesIntoSight) {
+  for (const int row : {kRows - 1, 50, 1}) {
+    grid.Set_Row(row);
+    EXPECT_FALSE(view.Cell_Rect(row, 1).isEmpty()) << row;
+  }
+  grid.Set_Row(kRows - 1);
+  grid.Set_Rows(3);
+  EXPECT_EQ(view.verticalScrollBar()->maximum(), 0);
+  EXPECT_FALSE(view.Cell_Rect(1, 1).isEmpty());
+}
+
+TEST_F(GridView, ATextStaysInItsCellWhateverCharactersItHolds) {
+  const auto without_cell = [this](QRect cell) {
+    QImage picture = view.viewport()->grab().toImage();
+    for (int y = cell.top(); y <= cell.bottom(); ++y)
+      for (int x = cell.left(); x <= cell.right(); ++x) picture.setPixel(x, y, 0);
+    return picture;
+  };
+  const QRect cell = view.Cell_Rect(2, 17);
+  const QImage empty = view.viewport()->grab().toImage();
+  const QImage around = without_cell(cell);
+  for (const char* text : {"0123456789ABCDEF",
+                           "A\x7F"
+                           "B\u00A0C\nD",
+                           "ｱｲｳ&ｴ<b>ｵ", "a text that is much too long for its cell"}) {
+    grid.Set_Row(2);
+    grid.Set_Col(17);
+    grid.Set_Text(text);
+    grid.Set_Row(1);
+    grid.Set_Col(1);
+    EXPECT_NE(view.viewport()->grab().toImage(), empty) << text;
+    EXPECT_EQ(without_cell(cell), around) << text;
+  }
+}
+
+}  // namespace
+}  // namespace wrenbit

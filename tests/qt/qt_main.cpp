@@ -1,0 +1,16 @@
+// Runs the tests inside the real program, whose windows stay closed, with folders of its own.
+#include <gtest/gtest.h>
+
+#include <QTemporaryDir>
+
+#include "program.h"
+
+int main(int argc, char** argv) {
+  testing::InitGoogleTest(&argc, argv);
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  const QTemporaryDir home;
+  qputenv("XDG_CONFIG_HOME", home.path().toUtf8());
+  qputenv("XDG_DATA_HOME", home.path().toUtf8());
+  wrenbit::Program program(argc, argv);
+  return RUN_ALL_TESTS();
+}
