@@ -106,7 +106,7 @@ QWidget* Text_Box_View(TextBox& box, QWidget* holder) {
   view->setReadOnly(!box.Change);
   // A thin edge, because the box is hardly higher than its letters.
   view->setStyleSheet(
-      QStringLiteral("QLineEdit { border: 1px solid palette(dark); background: palette(base); }"
+      QStringLiteral("QLineEdit { border: 1px solid palette(dark); background: palette(base); padding-top: 1px; }"
                      "QLineEdit:focus { border-color: palette(highlight); }"
                      "QLineEdit:disabled { background: palette(window); }"));
   QObject::connect(view, &QLineEdit::textEdited, view,
