@@ -2,7 +2,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <numeric>
 
 #include "make_chip.h"
 #include "programmer_board.h"
@@ -35,29 +34,14 @@ std::vector<std::string> Names() {
   return names;
 }
 
-class Every_Part : public testing::TestWithParam<std::tuple<std::string, Route>> {
+class Every_Part : public testing::TestWithParam<std::string> {
  protected:
-  Bench On{std::get<0>(GetParam()), std::get<1>(GetParam())};
+  Bench On{GetParam()};
   std::size_t LastPage = On.Part.Bytes - On.Part.Page;
 };
 
-INSTANTIATE_TEST_SUITE_P(Parts, Every_Part,
-                         testing::Combine(testing::ValuesIn(Names()),
-                                          testing::Values(Route::kPorts, Route::kAccelerators)),
-                         [](const auto& about) {
-                           return std::get<0>(about.param) +
-                                  (std::get<1>(about.param) == Route::kPorts ? "_ports" : "_accelerators");
-                         });
-
-TEST_P(Every_Part, Reads_Back_A_Page_And_Keeps_It_Without_Supply) {
-  Bytes page(On.Part.Page);
-  std::iota(page.begin(), page.end(), std::uint8_t{0x35});
-  ASSERT_TRUE(On.Pc.Write(On.Part, LastPage, page));
-  ASSERT_TRUE(On.Pc.Power_Off());
-  EXPECT_TRUE(std::ranges::equal(On.Store.Cells().last(page.size()), page));
-  ASSERT_TRUE(On.Pc.Power_On());
-  EXPECT_EQ(On.Pc.Read_From(On.Part, LastPage, page.size()), page);
-}
+INSTANTIATE_TEST_SUITE_P(Parts, Every_Part, testing::ValuesIn(Names()),
+                         [](const auto& about) { return about.param; });
 
 TEST_P(Every_Part, Wraps_A_Long_Write_To_The_Start_Of_The_Page) {
   Bytes bytes(On.Part.Page, 0x11);
@@ -83,18 +67,6 @@ TEST_P(Every_Part, Answers_To_No_Control_Byte_But_Its_Own) {
   }
   ASSERT_TRUE(On.Pc.Start());
   EXPECT_FALSE(On.Pc.Send(0xB0));
-}
-
-TEST(Two_Wire_Chip, Puts_A_Byte_Where_Its_Address_Says) {
-  const std::pair<const char*, std::size_t> cases[] = {{"24C04", 0x1A7},     {"24C08", 0x2A7},
-                                                       {"24C16", 0x5A7},     {"24C512", 0xC5A7},
-                                                       {"24C1024", 0x1C5A7}, {"AT24C1024", 0x10000}};
-  for (const auto& [name, address] : cases) {
-    Bench on(name);
-    ASSERT_TRUE(on.Pc.Write(on.Part, address, {0x5A})) << name;
-    EXPECT_EQ(on.Store.Cells()[address], 0x5A) << name;
-    EXPECT_EQ(on.Written(), 1u) << name;
-  }
 }
 
 TEST(Two_Wire_Chip, Is_Deaf_To_A_Start_Condition_Until_Its_Write_Cycle_Is_Over) {

@@ -50,14 +50,4 @@ TEST(Faulty_Board, Holds_Back_The_Late_Reply) {
   EXPECT_EQ(faulty.Receive('?').Late, 0);
 }
 
-TEST(Faulty_Board, Vanishes_At_The_First_Byte_Of_The_Command) {
-  board::Programmer_Board programmer("5.00");
-  board::Faulty_Board faulty(programmer, {.GoneAt = 2});
-  Test_Pc(faulty).Say("mwa", {1});
-  EXPECT_FALSE(faulty.Gone());
-  Test_Pc(faulty).Say("m");
-  EXPECT_TRUE(faulty.Gone());
-  EXPECT_EQ(programmer.Bytes_In(), 4u);
-}
-
 }  // namespace

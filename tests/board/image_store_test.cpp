@@ -3,12 +3,12 @@
 
 #include <gtest/gtest.h>
 
-#include "temp_folder.h"
+#include "temporary_folder.h"
 
 namespace {
 
 TEST(Image_Store, Makes_An_Erased_Image_And_Finds_Its_Cells_Again) {
-  const Temp_Folder folder;
+  const Temporary_Folder folder;
   const auto path = folder / "chip.bin";
   {
     board::Image_Store store(path, 16);
@@ -20,7 +20,7 @@ TEST(Image_Store, Makes_An_Erased_Image_And_Finds_Its_Cells_Again) {
 }
 
 TEST(Image_Store, Writes_No_Byte_But_The_Changed_One) {
-  const Temp_Folder folder;
+  const Temporary_Folder folder;
   const auto path = folder / "chip.bin";
   Put_Content(path, "abcd");
   board::Image_Store store(path, 4);
@@ -31,7 +31,7 @@ TEST(Image_Store, Writes_No_Byte_But_The_Changed_One) {
 }
 
 TEST(Image_Store, Refuses_What_Is_No_Image_Of_The_Chip_And_Leaves_It_Alone) {
-  const Temp_Folder folder;
+  const Temporary_Folder folder;
   for (const std::string content : {"", "short", "much too long"}) {
     const auto path = folder / "chip.bin";
     Put_Content(path, content);

@@ -5,7 +5,6 @@
 
 #include <algorithm>
 
-#include "make_chip.h"
 #include "test_pc.h"
 
 namespace {
@@ -45,24 +44,6 @@ TEST(Programmer_Board, Takes_What_Stands_Behind_An_Unknown_Byte_As_A_Command) {
   EXPECT_EQ(pc.Say("9?"), Bytes{'?'});
 }
 
-TEST(Programmer_Board, Gives_A_Foreign_Identification_As_It_Stands) {
-  board::Programmer_Board programmer("5.00");
-  programmer.Identify_As("TOLVEX Ver.5.00\r");
-  EXPECT_EQ(Text(Test_Pc(programmer).Say("?")), "TOLVEX Ver.5.00\r");
-}
-
-TEST(Programmer_Board, Counts_Commands_Bytes_And_Wire_Time) {
-  board::Programmer_Board programmer("5.00");
-  Test_Pc pc(programmer);
-  pc.Say("?");
-  pc.Say("mwa", {0});
-  pc.Say("xyz");
-  EXPECT_EQ(programmer.Commands(), 2u);
-  EXPECT_EQ(programmer.Bytes_In(), 8u);
-  EXPECT_EQ(programmer.Bytes_Out(), 17u);
-  EXPECT_DOUBLE_EQ(programmer.Wire_Time(), 25 * 10 / 9600.0);
-}
-
 TEST(Chip_Socket, Pulls_Released_Lines_Up_Only_While_It_Has_Supply) {
   board::Programmer_Board programmer("5.00");
   Test_Pc pc(programmer);
@@ -74,56 +55,6 @@ TEST(Chip_Socket, Pulls_Released_Lines_Up_Only_While_It_Has_Supply) {
   pc.Say("mtb", {0xFF});
   EXPECT_FALSE(programmer.Supply());
   EXPECT_EQ(pc.Pins("a", 6), 0);
-}
-
-TEST(Chip_Socket, Keeps_A_Stuck_Line_At_Its_Level_Until_It_Is_Freed) {
-  struct {
-    Line Stuck;
-    const char* Port;
-    int Mask;
-  } const cases[] = {{Line::kScl, "a", 0x02}, {Line::kSda, "a", 0x04}, {Line::kSupply, "b", 0x40},
-                     {Line::kSk, "b", 0x10},  {Line::kDi, "b", 0x08},  {Line::kDo, "b", 0x04},
-                     {Line::kCs, "c", 0x08}};
-  for (const auto& fault : cases) {
-    for (const bool high : {false, true}) {
-      board::Programmer_Board programmer("5.00");
-      Test_Pc pc(programmer);
-      programmer.Socket().Stick(fault.Stuck, high);
-      for (const std::uint8_t level : Bytes{0x00, 0xFF}) {
-        for (const char* port : {"a", "b", "c"}) {
-          pc.Say(std::string("mw") + port, {level});
-          pc.Say(std::string("mt") + port, {0});
-        }
-        EXPECT_EQ(pc.Pins(fault.Port, fault.Mask), high ? fault.Mask : 0) << fault.Port << fault.Mask;
-      }
-      programmer.Socket().Free(fault.Stuck);
-      EXPECT_EQ(pc.Pins(fault.Port, fault.Mask), fault.Mask);
-    }
-  }
-}
-
-TEST(Chip_Socket, Acknowledges_Nothing_When_Empty_Or_When_A_Bus_Line_Is_Stuck) {
-  board::Cell_Store store(256);
-  board::Programmer_Board programmer("5.00");
-  Test_Pc pc(programmer);
-  ASSERT_TRUE(pc.Power_On() && pc.Start());
-  EXPECT_FALSE(pc.Send(0xA0));
-  ASSERT_TRUE(pc.Stop());
-
-  programmer.Insert(board::Make_Chip("24C02", store));
-  ASSERT_TRUE(pc.Start());
-  EXPECT_TRUE(pc.Send(0xA0));
-  ASSERT_TRUE(pc.Stop());
-
-  for (const auto& [line, high] :
-       {std::pair{Line::kScl, false}, std::pair{Line::kScl, true}, std::pair{Line::kSda, true}}) {
-    programmer.Socket().Stick(line, high);
-    EXPECT_FALSE(pc.Start());
-    EXPECT_FALSE(pc.Send(0xA0));
-    programmer.Socket().Free(line);
-  }
-  EXPECT_NE(programmer.Remove(), nullptr);
-  EXPECT_EQ(programmer.Remove(), nullptr);
 }
 
 // Sits in the socket, writes down how the lines change, and drives one of them when a clock rises.
@@ -183,16 +114,6 @@ TEST(Accelerators, Move_The_Two_Wire_Bus_As_The_Port_Commands_Do) {
   for (int what = 0; what < 4; ++what)
     EXPECT_EQ(run(Route::kAccelerators, what), run(Route::kPorts, what)) << what;
   EXPECT_EQ(run(Route::kAccelerators, 1), "lLHL");
-}
-
-TEST(Accelerators, Leave_Both_Two_Wire_Lines_Low_Behind_A_Bit_That_Came_In) {
-  board::Programmer_Board programmer("5.00");
-  Test_Pc pc(programmer);
-  ASSERT_TRUE(pc.Power_On() && pc.Start());
-  EXPECT_EQ(pc.Say("3"), Bytes{1});
-  EXPECT_EQ(pc.Pins("a", 6), 0);
-  EXPECT_EQ(pc.Say("7"), Bytes{0xFF});
-  EXPECT_EQ(pc.Pins("a", 6), 0);
 }
 
 TEST(Accelerators, Clock_Bit_Fields_And_Bytes_On_The_Three_Wire_Bus) {

@@ -7,10 +7,10 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include <chrono>
+#include <utility>
 
 #include "descriptor.h"
-#include "temp_folder.h"
+#include "temporary_folder.h"
 
 namespace {
 
@@ -92,7 +92,7 @@ class Tolvex_Sim : public testing::Test {
     return Read(*port, 17);
   }
 
-  const Temp_Folder Config;
+  const Temporary_Folder Config;
   const fs::path Ports = Config / "wrenbit/ports";
   const fs::path Link = Ports / "COM3";
   const fs::path Lock = Ports / "COM3.lock";
@@ -174,17 +174,6 @@ TEST_F(Tolvex_Sim, Explains_Wrong_Arguments) {
     EXPECT_NE(simulator.Farewell.find(wrong.Said), std::string::npos) << simulator.Farewell;
     EXPECT_TRUE(fs::is_empty(Ports));
   }
-}
-
-TEST_F(Tolvex_Sim, Replies_No_Sooner_Than_The_Wire_When_Paced) {
-  auto arguments = Plain;
-  arguments.push_back("--pace");
-  Simulator simulator(Config / "", arguments);
-  simulator.Line();
-  const auto start = std::chrono::steady_clock::now();
-  EXPECT_EQ(Ask(), Identity);
-  const std::chrono::duration<double> took = std::chrono::steady_clock::now() - start;
-  EXPECT_GE(took.count(), 18 * 10 / 9600.0 - 1e-6);
 }
 
 TEST_F(Tolvex_Sim, Outlives_A_Port_That_Sends_And_Never_Reads) {

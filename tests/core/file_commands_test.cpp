@@ -4,12 +4,11 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <fstream>
-#include <iterator>
 
 #include "frm_main.h"
 #include "hex_grid.h"
 #include "state.h"
+#include "temporary_folder.h"
 #include "test_bench.h"
 
 namespace wrenbit {
@@ -17,13 +16,11 @@ namespace {
 
 struct File_Commands : testing::Test {
   Test_Bench bench;
-  std::filesystem::path folder;
+  const Temporary_Folder folder;
   CommonDialog& dialog = frmMain.dlgCommonDialog;
   std::string Answer;  // The path that the user picks; empty cancels.
 
   void SetUp() override {
-    std::string name = testing::TempDir() + "/files-XXXXXX";
-    folder = mkdtemp(name.data());
     dialog.View_Open = dialog.View_Save = [this] {
       if (Answer.empty()) return false;
       dialog.FileName = Answer;
@@ -34,26 +31,19 @@ struct File_Commands : testing::Test {
     MemSize = 7;
     Buffer_Init();
   }
-  void TearDown() override {
-    dialog.View_Open = dialog.View_Save = nullptr;
-    std::filesystem::remove_all(folder);
-  }
-  static std::string Contents(const std::filesystem::path& path) {
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
-  }
+  void TearDown() override { dialog.View_Open = dialog.View_Save = nullptr; }
   static const std::string& Message() { return frmMain.sbStatusBar.Panel(1); }
 };
 
 TEST_F(File_Commands, ASavedImageComesBack) {
   for (std::size_t i = 0; i < 128; ++i) ImageBuffer[i] = static_cast<std::uint8_t>(i * 3);
   const Bytes image = ImageBuffer;
-  Answer = (folder / "a.hex").string();
+  Answer = folder / "a.hex";
   mnuFileSaveAs_Click();
   EXPECT_EQ(Message(), "ファイルに保存終了。 ");
   EXPECT_EQ(frmMain.Caption(), "Title  " + Answer);
-  EXPECT_EQ(bench.Stored["SAVE_DIR"], folder.string());
-  EXPECT_EQ(Contents(Answer).size(), 373U);
+  EXPECT_EQ(bench.Stored["SAVE_DIR"], folder.Path());
+  EXPECT_EQ(Content(Answer).size(), 373U);
 
   Buffer_Init();
   mnuFileOpen_Click();
@@ -61,14 +51,14 @@ TEST_F(File_Commands, ASavedImageComesBack) {
   EXPECT_EQ(frmMain.MSFGrid1.Cell(8, 16), "0x7D");
   EXPECT_EQ(Message(), "ファイルオープン完了");
   EXPECT_EQ(frmMain.Caption(), "Title  " + Answer);
-  EXPECT_EQ(bench.Stored["OPEN_DIR0"], folder.string());
+  EXPECT_EQ(bench.Stored["OPEN_DIR0"], folder.Path());
   EXPECT_EQ(frmMain.MousePointer(), Pointer::Default);
 }
 
 TEST_F(File_Commands, ACancelledOrMissingFileChangesNothing) {
   ImageBuffer[0] = 1;
   const std::string caption = frmMain.Caption();
-  for (const std::string& answer : {std::string(), (folder / "none.hex").string(), folder.string()}) {
+  for (const std::string& answer : {std::string(), folder / "none.hex", folder.Path()}) {
     SCOPED_TRACE(answer);
     Answer = answer;
     mnuFileOpen_Click();
@@ -83,23 +73,23 @@ TEST_F(File_Commands, ACancelledOrMissingFileChangesNothing) {
 }
 
 TEST_F(File_Commands, AnExistingFileIsAskedForAndStandsWhenRefused) {
-  Answer = (folder / "a.hex").string();
-  std::ofstream(Answer) << "old";
+  Answer = folder / "a.hex";
+  Put_Content(Answer, "old");
   bench.Box_Answer = false;
   mnuFileSaveAs_Click();
   EXPECT_EQ(bench.Boxes, std::vector<std::string>{"上書き保存 | ファイルが存在します。上書きしますか？"});
   EXPECT_EQ(Message(), "ファイル保存をキャンセルしました。");
-  EXPECT_EQ(Contents(Answer), "old");
+  EXPECT_EQ(Content(Answer), "old");
   EXPECT_EQ(HexFilePath, Answer);
   EXPECT_TRUE(bench.Stored.empty());
 
   bench.Box_Answer = true;
   mnuFileSaveAs_Click();
-  EXPECT_EQ(Contents(Answer).substr(0, 9), ":10000000");
+  EXPECT_EQ(Content(Answer).substr(0, 9), ":10000000");
 }
 
 TEST_F(File_Commands, WhatCannotBeWrittenIsToldWithItsReason) {
-  Answer = (folder / "no such folder" / "a.hex").string();
+  Answer = folder / "no such folder/a.hex";
   mnuFileSaveAs_Click();
   ASSERT_EQ(bench.Boxes.size(), 1U);
   EXPECT_NE(bench.Boxes[0].find(Answer), std::string::npos);

@@ -5,9 +5,9 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <fstream>
 
 #include "state.h"
+#include "temporary_folder.h"
 #include "test_bench.h"
 #include "windows.h"
 
@@ -16,19 +16,12 @@ namespace {
 
 struct Start : testing::Test {
   Test_Bench bench;
-  std::filesystem::path folder;
+  const Temporary_Folder folder;
   const std::filesystem::path before = std::filesystem::current_path();
 
-  void SetUp() override {
-    std::string name = testing::TempDir() + "/start-XXXXXX";
-    folder = mkdtemp(name.data());
-    App.Path = folder.string();
-  }
-  void TearDown() override {
-    std::filesystem::current_path(before);
-    std::filesystem::remove_all(folder);
-  }
-  void Catalogue_File(const std::string& text) const { std::ofstream(folder / "wrenbit.ini") << text; }
+  void SetUp() override { App.Path = folder.Path(); }
+  void TearDown() override { std::filesystem::current_path(before); }
+  void Catalogue_File(const std::string& text) const { Put_Content(folder / "wrenbit.ini", text); }
 };
 
 constexpr const char* kRows = "Ver 1.00\n24C02 I2C 2 8 8 1 0 2Kbit\nLONGNAMED I2C 2 4 1 1 0 128bit\n";
@@ -90,7 +83,7 @@ TEST_F(Start, ASecondInstanceEndsWithoutAWord) {
 
 TEST_F(Start, WithoutACatalogueItSaysSoAndEnds) {
   const std::string stop = "\r\nＷＲＥＮＢＩＴプログラマーの起動を中止しました。";
-  const std::string here = folder.string() + "/";
+  const std::string here = folder.Path() + "/";
   EXPECT_FALSE(Main());
   Reset_State();
   Catalogue_File("; nothing but a comment\nVer 1\n");

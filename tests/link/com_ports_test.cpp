@@ -6,7 +6,7 @@
 #include <sys/file.h>
 #include <unistd.h>
 
-#include <fstream>
+#include "temporary_folder.h"
 
 namespace wrenbit {
 namespace {
@@ -24,17 +24,15 @@ TEST(Com_Ports, UsbAdaptersComeFirstInTheOrderOfTheirNumbers) {
 }
 
 struct Links : testing::Test {
-  std::filesystem::path folder;
+  const Temporary_Folder temporary;
+  const std::filesystem::path folder = temporary.Path();
   const std::vector<Serial_Device> one_adapter{{"/dev/ttyUSB0", true}};
 
   void SetUp() override {
-    std::string name = testing::TempDir() + "/ports-XXXXXX";
-    folder = mkdtemp(name.data());
     std::filesystem::create_symlink("/dev/null", folder / "COM1");
     std::filesystem::create_symlink("/dev/no-such-device", folder / "COM2");
     std::filesystem::create_symlink("/etc/passwd", folder / "COM3");
   }
-  void TearDown() override { std::filesystem::remove_all(folder); }
 };
 
 TEST_F(Links, ALinkToADeviceWinsAndAnyOtherCountsAsAbsent) {
@@ -47,7 +45,7 @@ TEST_F(Links, ALinkToADeviceWinsAndAnyOtherCountsAsAbsent) {
 
 TEST_F(Links, ALinkLeftBehindByAKilledBoardCountsAsAbsent) {
   const std::filesystem::path lock = folder / "COM1.lock";
-  std::ofstream(lock).close();
+  Put_Content(lock, "");
   EXPECT_EQ(Device_Of_Com(1, folder, one_adapter), "/dev/ttyUSB0");
 
   const int board = open(lock.c_str(), O_RDWR);

@@ -1,16 +1,16 @@
 // A folder of a test's own, open to every user, gone with all that it holds when the test is over.
 #pragma once
 
-#include <gtest/gtest.h>
-
 #include <cstdlib>
 #include <filesystem>
+#include <fstream>
+#include <iterator>
 #include <stdexcept>
 #include <string>
 
 class Temporary_Folder {
  public:
-  Temporary_Folder() : path(testing::TempDir() + "wrenbit-test-XXXXXX") {
+  Temporary_Folder() : path((std::filesystem::temp_directory_path() / "wrenbit-test-XXXXXX").string()) {
     if (mkdtemp(path.data()) == nullptr) throw std::runtime_error("no temporary folder " + path);
     std::filesystem::permissions(path, std::filesystem::perms::all);
   }
@@ -21,13 +21,21 @@ class Temporary_Folder {
     std::filesystem::remove_all(path, ignored);
   }
 
+  const std::string& Path() const { return path; }
   std::string operator/(const std::string& name) const { return path + "/" + name; }
   long Entries() const {
     return std::distance(std::filesystem::directory_iterator(path), std::filesystem::directory_iterator());
   }
 
-  const std::string& Path() const { return path; }
-
  private:
   std::string path;
 };
+
+inline std::string Content(const std::filesystem::path& path) {
+  std::ifstream file(path, std::ios::binary);
+  return {std::istreambuf_iterator<char>(file), {}};
+}
+
+inline void Put_Content(const std::filesystem::path& path, const std::string& content) {
+  std::ofstream(path, std::ios::binary) << content;
+}
