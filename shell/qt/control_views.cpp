@@ -105,10 +105,10 @@ QWidget* Text_Box_View(TextBox& box, QWidget* holder) {
   view->setMaxLength(box.MaxLength);
   view->setReadOnly(!box.Change);
   // A thin edge, because the box is hardly higher than its letters.
-  view->setStyleSheet(
-      QStringLiteral("QLineEdit { border: 1px solid palette(dark); background: palette(base); padding-top: 1px; }"
-                     "QLineEdit:focus { border-color: palette(highlight); }"
-                     "QLineEdit:disabled { background: palette(window); }"));
+  view->setStyleSheet(QStringLiteral(
+      "QLineEdit { border: 1px solid palette(dark); background: palette(base); padding-top: 1px; }"
+      "QLineEdit:focus { border-color: palette(highlight); }"
+      "QLineEdit:disabled { background: palette(window); }"));
   QObject::connect(view, &QLineEdit::textEdited, view,
                    [&box](const QString& text) { box.Set_Text(text.toStdString()); });
   QObject::connect(view, &QLineEdit::selectionChanged, view, [view, &box] {

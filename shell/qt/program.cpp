@@ -5,6 +5,7 @@
 #include <QStandardPaths>
 #include <QTranslator>
 
+#include "end_signals.h"
 #include "file_dialog.h"
 #include "look.h"
 #include "start.h"
@@ -66,6 +67,7 @@ Program::Program(int& argc, char** argv)
   MSComm1.Attach(&serial);
   Wire_Windows();
   Make_Windows();
+  On_End_Signal(&application, [this] { frmMain.Loaded() ? frmMain.Close() : platform.End(); });
 }
 
 Program::~Program() {
