@@ -19,17 +19,6 @@ TEST(Image_Store, Makes_An_Erased_Image_And_Finds_Its_Cells_Again) {
   EXPECT_EQ(board::Image_Store(path, 16).Cells()[5], 'A');
 }
 
-TEST(Image_Store, Writes_No_Byte_But_The_Changed_One) {
-  const Temporary_Folder folder;
-  const auto path = folder / "chip.bin";
-  Put_Content(path, "abcd");
-  board::Image_Store store(path, 4);
-  Put_Content(path, "....");
-  store.Write(1, 'b');
-  store.Write(2, 'X');
-  EXPECT_EQ(Content(path), "..X.");
-}
-
 TEST(Image_Store, Refuses_What_Is_No_Image_Of_The_Chip_And_Leaves_It_Alone) {
   const Temporary_Folder folder;
   for (const std::string content : {"", "short", "much too long"}) {

@@ -33,17 +33,6 @@ TEST(Programmer_Board, Says_Its_Version_And_Has_Accelerators_From_5_0_On) {
   }
 }
 
-TEST(Programmer_Board, Takes_What_Stands_Behind_An_Unknown_Byte_As_A_Command) {
-  board::Programmer_Board old("4.99");
-  EXPECT_EQ(Test_Pc(old).Say("9?").size(), 17u);
-  board::Programmer_Board fresh("5.00");
-  Test_Pc pc(fresh);
-  EXPECT_EQ(pc.Say("mw?").size(), 17u);
-  EXPECT_EQ(pc.Say("mwa?"), Bytes{});
-  EXPECT_EQ(fresh.Latch('a'), '?');
-  EXPECT_EQ(pc.Say("9?"), Bytes{'?'});
-}
-
 TEST(Chip_Socket, Pulls_Released_Lines_Up_Only_While_It_Has_Supply) {
   board::Programmer_Board programmer("5.00");
   Test_Pc pc(programmer);

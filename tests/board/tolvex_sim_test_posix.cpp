@@ -156,26 +156,6 @@ TEST_F(Tolvex_Sim, Leaves_A_Link_Alone_That_No_Board_Made) {
   EXPECT_EQ(Content(Link), "a file");
 }
 
-TEST_F(Tolvex_Sim, Explains_Wrong_Arguments) {
-  struct {
-    std::vector<std::string> Arguments;
-    int Exit;
-    const char* Said;
-  } const cases[] = {
-      {{"--help"}, 0, "--pace"},
-      {{"--com", "3", "--chip", "24C99"}, 2, "AT24C1024"},
-      {{"--com", "21", "--chip", "24C02"}, 2, "--com"},
-      {{"--com", "3"}, 2, "--chip"},
-      {{"--com", "3", "--chip", "24C02", "--image", "/nowhere/chip.bin"}, 1, "image /nowhere/chip.bin"},
-  };
-  for (const auto& wrong : cases) {
-    Simulator simulator(Config / "", wrong.Arguments);
-    EXPECT_EQ(simulator.Wait(), wrong.Exit) << wrong.Said;
-    EXPECT_NE(simulator.Farewell.find(wrong.Said), std::string::npos) << simulator.Farewell;
-    EXPECT_TRUE(fs::is_empty(Ports));
-  }
-}
-
 TEST_F(Tolvex_Sim, Outlives_A_Port_That_Sends_And_Never_Reads) {
   Simulator simulator(Config / "", Plain);
   simulator.Line();

@@ -56,20 +56,6 @@ Bytes Sent_By(Chip_Bench& bench, void (*run)()) {
   return bench.Sent;
 }
 
-TEST(C24_Bus, ThePowerSequencesDriveLatchesBeforeDirections) {
-  Chip_Bench bench("24C02", "5.00", true);
-  EXPECT_EQ(Sent_By(bench, C24_Power_on),
-            (Bytes{'m', 'w', 'a',  6,   'm', 'w', 'b',  0x40, 'm', 'w', 'c', 0x80, 'm', 't', 'a', 0xF8, 'm',
-                   't', 'b', 0xA3, 'm', 't', 'c', 0x77, 'm',  'r', 'a', 'm', 'r',  'b', 'm', 'r', 'c'}));
-  EXPECT_TRUE(bench.Programmer.Supply());
-  EXPECT_EQ(Sent_By(bench, C24_Power_off),
-            (Bytes{'m', 'w', 'a',  0,   'm', 'w', 'b',  0,   'm', 'w', 'c', 0x80, 'm', 't', 'a', 0xFF, 'm',
-                   't', 'b', 0xFF, 'm', 't', 'c', 0x7F, 'm', 'r', 'a', 'm', 'r',  'b', 'm', 'r', 'c'}));
-  EXPECT_FALSE(bench.Programmer.Supply());
-  EXPECT_EQ(LinkError, 0);
-  EXPECT_EQ(Panel(1), "");
-}
-
 TEST(C24_Bus, BitsBelow5AreSequencesOfPortCommands) {
   Chip_Bench bench("24C02", "4.99", true);
   C24_Power_on();

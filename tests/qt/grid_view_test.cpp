@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <QImage>
 #include <QScrollBar>
 #include <QTest>
 
@@ -85,30 +84,6 @@ TEST_F(GridView, ACellThatCodeMakesCurrentComesIntoSight) {
   grid.Set_Rows(3);
   EXPECT_EQ(view.verticalScrollBar()->maximum(), 0);
   EXPECT_FALSE(view.Cell_Rect(1, 1).isEmpty());
-}
-
-TEST_F(GridView, ATextStaysInItsCellWhateverCharactersItHolds) {
-  const auto without_cell = [this](QRect cell) {
-    QImage picture = view.viewport()->grab().toImage();
-    for (int y = cell.top(); y <= cell.bottom(); ++y)
-      for (int x = cell.left(); x <= cell.right(); ++x) picture.setPixel(x, y, 0);
-    return picture;
-  };
-  const QRect cell = view.Cell_Rect(2, 17);
-  const QImage empty = view.viewport()->grab().toImage();
-  const QImage around = without_cell(cell);
-  for (const char* text : {"0123456789ABCDEF",
-                           "A\x7F"
-                           "B\u00A0C\nD",
-                           "ｱｲｳ&ｴ<b>ｵ", "a text that is much too long for its cell"}) {
-    grid.Set_Row(2);
-    grid.Set_Col(17);
-    grid.Set_Text(text);
-    grid.Set_Row(1);
-    grid.Set_Col(1);
-    EXPECT_NE(view.viewport()->grab().toImage(), empty) << text;
-    EXPECT_EQ(without_cell(cell), around) << text;
-  }
 }
 
 }  // namespace

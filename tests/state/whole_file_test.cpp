@@ -164,21 +164,5 @@ TEST(WholeFile, RefusesAFileOrFolderThatTheUserMayNotWrite) {
   chmod((folder / "locked").c_str(), 0755);
 }
 
-// In a sticky folder the last step, the move, is what another user's file refuses.
-TEST(WholeFile, AMoveThatIsRefusedLeavesNothingBeside) {
-  if (geteuid() != 0) GTEST_SKIP() << "only root can lay down another user's file";
-  const Temporary_Folder folder;
-  chmod(folder.Path().c_str(), 01777);
-  std::ofstream(folder / "of-root") << "old";
-  chmod((folder / "of-root").c_str(), 0666);
-  {
-    const Plain_User plain;
-    if (!plain) GTEST_SKIP() << "root can't become a plain user here";
-    EXPECT_EQ(Write_Whole_File(folder / "of-root", "new"), kNotAllowed);
-  }
-  EXPECT_EQ(Read_Whole_File(folder / "of-root"), "old");
-  EXPECT_EQ(folder.Entries(), 1);
-}
-
 }  // namespace
 }  // namespace wrenbit
