@@ -20,21 +20,25 @@ constexpr std::array<Number_Column, 5> kNumberColumns{{{kFamily, "ファミリ"}
 
 bool Holds_Number_Or_Nothing(const std::string& cell) { return cell.empty() || Whole_Number(cell); }
 
+// A message box shows all that it is given.
+std::string Clipped(std::string_view text) { return std::string(First_Characters(text, 20)); }
+
 std::string Line_Text(int line) { return std::to_string(line) + "行目: "; }
 
 void Add_Row(Catalogue& catalogue, std::string_view record, int line) {
   const auto cells = Split_Line(record);
   if (catalogue.Rows.size() == kTableRows) {
-    catalogue.Problems.push_back(Line_Text(line) + cells[kName] + " は" + std::to_string(kTableRows) +
-                                 "行を超えたため読み込みませんでした。");
+    catalogue.Problems.push_back(Line_Text(line) + Clipped(cells[kName]) + " は" +
+                                 std::to_string(kTableRows) + "行を超えたため読み込みませんでした。");
     return;
   }
   Device_Row row;
   std::copy_n(cells.begin(), kTableColumns, row.begin());
   for (const auto& [column, name] : kNumberColumns)
     if (const std::string& cell = row[column]; !Holds_Number_Or_Nothing(cell))
-      catalogue.Problems.push_back(Line_Text(line) + row[kName] + " の列" + std::to_string(column) + " (" +
-                                   name + ") の \"" + cell + "\" は数値ではありません。0とします。");
+      catalogue.Problems.push_back(Line_Text(line) + Clipped(row[kName]) + " の列" + std::to_string(column) +
+                                   " (" + name + ") の \"" + Clipped(cell) +
+                                   "\" は数値ではありません。0とします。");
   catalogue.Rows.push_back(std::move(row));
 }
 

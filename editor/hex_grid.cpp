@@ -83,7 +83,7 @@ void Grid_Refill() {
   DoEvents();
   frmMain.MSFGrid1.Set_Visible(false);
   Fill_Rows();
-  // In an empty grid there is no first byte, and both are refused.
+  // In an empty grid there is no row of bytes, and the header stays current.
   frmMain.MSFGrid1.Set_Col(kFirstByteCol);
   frmMain.MSFGrid1.Set_Row(1);
   Grid_Format();

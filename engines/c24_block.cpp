@@ -1,5 +1,7 @@
 #include "c24_block.h"
 
+#include <algorithm>
+
 #include "accelerators.h"
 #include "block_progress.h"
 #include "c24_bus.h"
@@ -21,7 +23,7 @@ bool Begin() {
   return true;
 }
 
-std::int32_t Last_Address() { return (1 << AccessSize) - 1; }
+std::int32_t Last_Address() { return (1 << std::min(MemSize, AccessSize)) - 1; }
 
 void Send_Byte(std::uint8_t byte) { Has_Accelerators() ? Link_SendByte24(byte) : C24_Byte_By_Bits(byte); }
 
@@ -38,18 +40,11 @@ std::uint8_t Receive_Byte() {
   return static_cast<std::uint8_t>(byte);
 }
 
-void Send_Write_Address(std::int32_t address) {
-  C24_StartBit();
-  Send_Checked(Control_Byte(address, Direction::Write));
-  if (!One_Address_Byte()) Send_Checked(static_cast<std::uint8_t>(address >> 8 & 0xFF));
-  Send_Checked(static_cast<std::uint8_t>(address & 0xFF));
-}
-
 // A dummy write sets the chip's address counter to 0. In the one-byte form the control byte of the read
 // carries the high bits of the block's last address: the counter decides where the reading starts, not these
 // bits.
 void Start_Read(std::int32_t last) {
-  Send_Write_Address(0);
+  Start_Write(0, Send_Checked);
   C24_StartBit();
   C24_Byte_By_Bits(Control_Byte(One_Address_Byte() ? last : 0, Direction::Read));
   ACK_Check();
@@ -57,7 +52,7 @@ void Start_Read(std::int32_t last) {
 
 // One page from `address` on, or what is left of the block. Gives the address behind it.
 std::int32_t Write_Page(std::int32_t address, std::int32_t last, Block_Progress& progress) {
-  Send_Write_Address(address);
+  Start_Write(address, Send_Checked);
   for (std::int32_t sent = 0; sent < PageSize && address <= last; ++sent) {
     progress.At(address);
     Send_Checked(ImageBuffer[static_cast<std::size_t>(address)]);

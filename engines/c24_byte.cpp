@@ -32,13 +32,6 @@ void Send_Checked(std::uint8_t byte) {
   ACK_Check();
 }
 
-void Send_Address(std::int32_t address) {
-  C24_StartBit();
-  Send_Checked(Control_Byte(address, Direction::Write));
-  if (!One_Address_Byte()) Send_Checked(static_cast<std::uint8_t>(address >> 8 & 0xFF));
-  Send_Checked(static_cast<std::uint8_t>(address & 0xFF));
-}
-
 std::uint8_t Receive_Byte() {
   int byte = 0;
   for (int bit = 7; bit >= 0; --bit) byte |= C24_DATA() << bit;
@@ -51,7 +44,7 @@ void C24_ByteRead() {
   if (!Begin()) return;
   const std::int32_t address = Current_Address();
   C24_Power_on();
-  Send_Address(address);
+  Start_Write(address, Send_Checked);
   C24_StartBit();
   Send_Checked(Control_Byte(address, Direction::Read));
   const std::uint8_t byte = Receive_Byte();
@@ -70,7 +63,7 @@ void C24_ByteWrite() {
   if (!Begin()) return;
   const std::int32_t address = Current_Address();
   C24_Power_on();
-  Send_Address(address);
+  Start_Write(address, Send_Checked);
   Send_Checked(ImageBuffer[static_cast<std::size_t>(address)]);
   C24_StopBit();
   C24_Power_off();

@@ -18,6 +18,13 @@ void C24_Byte_By_Bits(std::uint8_t byte) {
   for (int bit = 7; bit >= 0; --bit) byte >> bit & 1 ? C24_Bit1() : C24_Bit0();
 }
 
+void Start_Write(std::int32_t address, void (*send)(std::uint8_t byte)) {
+  C24_StartBit();
+  send(Control_Byte(address, Direction::Write));
+  if (!One_Address_Byte()) send(static_cast<std::uint8_t>(address >> 8 & 0xFF));
+  send(static_cast<std::uint8_t>(address & 0xFF));
+}
+
 void ACK_Check() {
   if (!C24_ACK()) frmMain.sbStatusBar.Set_Panel(1, "24Cxx ACK error");
 }

@@ -1,5 +1,5 @@
-// What the 24Cxx transfers share: the control byte in both address forms, a byte in and out, the look at the
-// acknowledge, and the refusal of a device that cannot be addressed.
+// What the 24Cxx transfers share: the control byte and the address in both forms, a byte out, the look
+// at the acknowledge, and the refusal of a device that cannot be addressed.
 //
 //   AddressMode     control byte              address bytes
 //   1               1 0 1 0 A10 A9 A8 R/W     A7..A0
@@ -18,6 +18,10 @@ std::uint8_t Control_Byte(std::int32_t address, Direction direction);
 
 // Eight bits, highest first, bit by bit at every firmware version.
 void C24_Byte_By_Bits(std::uint8_t byte);
+
+// Start, control byte and address bytes of a write, each byte sent by `send`, which also looks at its
+// acknowledge.
+void Start_Write(std::int32_t address, void (*send)(std::uint8_t byte));
 
 // C24_ACK, with its text in panel 1 when the chip did not acknowledge. Does not stop the transfer.
 void ACK_Check();

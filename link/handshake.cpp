@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "code_page_932.h"
 #include "com_ports.h"
 #include "frm_main.h"
 #include "mscomm.h"
@@ -36,7 +37,7 @@ const char* Reason(Port_Fault fault) {
     case Port_Fault::No_Such_Port:
       return "ポートがありません。";
     case Port_Fault::No_Permission:
-      return "使用権限がありません。(dialoutグループに加入)";
+      return "使用権限なし(dialout)";
     case Port_Fault::In_Use:
       return "ポートは使用中です。";
     case Port_Fault::Gone:
@@ -89,11 +90,15 @@ const char* Limits_Text() {
   return ProgrammerVersion < 5.0F ? kLimits256 : kLimits4096;
 }
 
-// ASCII only: anything else would put broken text into the status bar.
-std::string Printable(std::string text) {
-  for (char& c : text)
-    if (c < 0x20 || c > 0x7E) c = '?';
-  return text;
+// Board and program share the code page. What cannot be shown is the dot.
+std::string Shown(std::string_view bytes) {
+  std::string shown;
+  for (const char c : Utf8_From_Cp932(bytes))
+    if (static_cast<unsigned char>(c) < 0x20 || c == 0x7F)
+      shown += kCp932Dot;
+    else
+      shown += c;
+  return shown;
 }
 
 }  // namespace
@@ -122,7 +127,7 @@ void Read_Version() {
     LinkError = 1;
     return;
   }
-  ProgrammerVersionText = Printable(text);
+  ProgrammerVersionText = Shown(text);
   frmMain.sbStatusBar.Set_Panel(2, "COM" + port.Text + " : " + ProgrammerVersionText);
   // No number counts as 0: port commands work with every board.
   ProgrammerVersion = static_cast<float>(Decimal_Number(text.substr(kVersionAt)).value_or(0));

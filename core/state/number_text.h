@@ -14,6 +14,9 @@ std::string_view Trim(std::string_view text);
 // Characters in a UTF-8 text.
 std::size_t Characters(std::string_view text);
 
+// The text's first so many characters, or all that it has.
+std::string_view First_Characters(std::string_view text, std::size_t count);
+
 // An optional sign and digits, within 32 bits signed.
 std::optional<std::int32_t> Whole_Number(std::string_view text);
 

@@ -16,14 +16,15 @@ void Form::Ensure_Loaded() {
 
 void Form::Show() {
   Ensure_Loaded();
-  if (Visible()) return;
+  if (!loaded || Visible()) return;
   Set_Visible(true);
   Fire(View_Show, false);
 }
 
 void Form::Show_Modal() {
   Ensure_Loaded();
-  if (Visible()) return;
+  // Form_Load may yield, and the window may have been shown and closed meanwhile.
+  if (!loaded || Visible()) return;
   Set_Visible(true);
   Fire(View_Show, true);
 }

@@ -15,7 +15,7 @@ inline constexpr Font kFixed11_25{.FixedPitch = true, .Points = 11.25};
 inline constexpr Font kToolRow{.FixedPitch = false, .Points = 8.25};
 
 struct Frm_Main : Form {
-  Frm_Main() : Form(10275, 7035) {}
+  Frm_Main() : Form(10275, 7035) { Lbl_memo.Set_Visible(false); }
 
   CommandButton Cmd_Open{*this, {135, 135, 915, 780}, "開く", kToolRow};
   CommandButton Cmd_SaveAs{*this, {1035, 135, 915, 780}, "保存", kToolRow};

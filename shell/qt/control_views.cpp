@@ -169,7 +169,7 @@ QWidget* Combo_Box_View(ComboBox& box, QWidget* holder) {
   });
 }
 
-constexpr int kNarrow = 88;  // Percent.
+constexpr int kWidths[] = {100, 88, 76};  // Percent.
 
 QWidget* Status_Bar_View(StatusBar& bar, QWidget* holder) {
   auto* view = new QWidget(holder);
@@ -188,7 +188,10 @@ QWidget* Status_Bar_View(StatusBar& bar, QWidget* holder) {
       const int room = panel->contentsRect().width();
       // Somewhat narrower letters come before dots.
       QFont letters = Font_For(bar.Lettering);
-      if (QFontMetrics(letters).horizontalAdvance(whole) > room) letters.setStretch(kNarrow);
+      for (const int width : kWidths) {
+        letters.setStretch(width);
+        if (QFontMetrics(letters).horizontalAdvance(whole) <= room) break;
+      }
       panel->setFont(letters);
       const QString fitting = QFontMetrics(letters).elidedText(whole, Qt::ElideRight, room);
       panel->setText(fitting);

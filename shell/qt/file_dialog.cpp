@@ -27,7 +27,8 @@ bool Ask(CommonDialog& dialog, QFileDialog::AcceptMode mode, QWidget* owner) {
   box.setFileMode(QFileDialog::AnyFile);
   box.setOption(QFileDialog::DontConfirmOverwrite);
   box.setNameFilters(Name_Filters(dialog.Filter));
-  box.setDefaultSuffix(QString::fromStdString(dialog.DefaultExt));
+  // When opening, a name without an extension may be a file's whole name.
+  if (mode == QFileDialog::AcceptSave) box.setDefaultSuffix(QString::fromStdString(dialog.DefaultExt));
   const QString proposed = QString::fromStdString(dialog.FileName);
   // A pattern in place of a name says no more than the filter does.
   if (!proposed.isEmpty() && !proposed.contains('*')) box.selectFile(QFileInfo(proposed).fileName());

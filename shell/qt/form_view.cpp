@@ -91,7 +91,7 @@ void Form_View::Hook_Form() {
   };
   form.View_Move = [this] {
     const QPoint place(Pixels(form.Left()), Pixels(form.Top()));
-    if (place == geometry().topLeft() - frame_corner) return;  // The form was told by Note_Position.
+    if (noting) return;  // The form is told where the window is, not the window where to go.
     placed = place;
     frame_corner = {};
     move(place);
@@ -129,7 +129,11 @@ void Form_View::Note_Position() {
   const QPoint place = geometry().topLeft() - frame_corner;
   if (place !=
       QPoint(Pixels(form.Left()), Pixels(form.Top())))  // Else the form keeps its fractions of a pixel.
+  {
+    noting = true;
     form.Move(place.x() * kTwipsPerPixel, place.y() * kTwipsPerPixel);
+    noting = false;
+  }
 }
 
 bool Form_View::event(QEvent* event) {

@@ -42,6 +42,7 @@ class Form_View : public QMainWindow {
 
   Form& form;
   const Form_Kind kind;
+  bool noting = false;  // The form is being told of a move of the window's own.
   QPoint placed;        // Where the form put the corner of the window's frame.
   QPoint frame_corner;  // From that corner to the window's own.
   std::unordered_map<const Control*, QWidget*> views;

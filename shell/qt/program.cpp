@@ -3,6 +3,7 @@
 #include <QDir>
 #include <QLibraryInfo>
 #include <QStandardPaths>
+#include <QSysInfo>
 #include <QTranslator>
 
 #include "end_signals.h"
@@ -35,6 +36,19 @@ void Order_Tabs(const Form_View& window) {
     QWidget::setTabOrder(window.View_Of(*before), window.View_Of(*bit));
 }
 
+// Takes the lock, unless another process of this machine's holds it. A lock that names no process, or one of
+// another machine, was left behind by a crash or came with a copied folder: it must not keep the program from
+// ever starting.
+bool Another_Lives(QLockFile& lock) {
+  lock.setStaleLockTime(0);  // However old, it holds as long as its process lives.
+  if (lock.tryLock() || lock.error() != QLockFile::LockFailedError) return false;
+  qint64 process = 0;
+  QString machine, name;
+  if (lock.getLockInfo(&process, &machine, &name) && machine == QSysInfo::machineHostName()) return true;
+  lock.removeStaleLockFile();
+  return !lock.tryLock();
+}
+
 }  // namespace
 
 QString Config_Folder() {
@@ -59,8 +73,7 @@ Program::Program(int& argc, char** argv)
 
   App.Path = QApplication::applicationDirPath().toStdString();
   QDir().mkpath(Config_Folder());
-  instance.setStaleLockTime(0);  // However old, the lock holds as long as its process lives.
-  App.PrevInstance = !instance.tryLock() && instance.error() == QLockFile::LockFailedError;
+  App.PrevInstance = Another_Lives(instance);
 
   ThePlatform = &platform;
   TheSettings = &settings;
@@ -78,7 +91,6 @@ Program::~Program() {
 }
 
 void Program::Make_Windows() {
-  frmMain.Lbl_memo.Set_Visible(false);
   main_window = std::make_unique<Form_View>(frmMain, Form_Kind::Main);
   Name_Views(*main_window);
   Order_Tabs(*main_window);

@@ -22,7 +22,6 @@ struct Handshake_Test : testing::Test {
 TEST_F(Handshake_Test, AGoodReplyTellsPortAndVersion) {
   Answer("TOLVEX fw. 5.00\r\n");
   frmMain.sbStatusBar.Set_Panel(1, "kept");
-  const double before = bench.Now();
   Read_Version();
   EXPECT_EQ(LinkError, 0);
   EXPECT_EQ(bench.Sent, (Bytes{'?', '?'}));
@@ -30,6 +29,16 @@ TEST_F(Handshake_Test, AGoodReplyTellsPortAndVersion) {
   EXPECT_EQ(Panel(2), "COM1 : TOLVEX fw. 5.00");
   EXPECT_FLOAT_EQ(ProgrammerVersion, 5.0F);
   EXPECT_TRUE(bench.Is_Open());
+
+  Answer("TOLVEX\xB1\x01xyz5.00\r\n");
+  Read_Version();
+  EXPECT_EQ(Panel(2), "COM1 : TOLVEXｱ･xyz5.00");
+}
+
+TEST_F(Handshake_Test, CostsItsPauseAndTheWireAndNothingElse) {
+  Answer("TOLVEX fw. 5.00\r\n");
+  const double before = bench.Now();
+  Read_Version();
   // 50 ms of pause, one byte out and 17 back; nothing else.
   EXPECT_NEAR(bench.Now() - before, 0.05 + 18 * 10.0 / 9600, 0.002);
 }
@@ -110,8 +119,7 @@ TEST_F(Handshake_Test, APortThatCannotBeOpenedSendsNothingAndSaysWhy) {
     std::string Panel1;
   } cases[] = {
       {Port_Fault::No_Such_Port, "2", "プログラマ接続確認エラー。【3】ポートがありません。"},
-      {Port_Fault::No_Permission, "0",
-       "プログラマ接続確認エラー。【1】使用権限がありません。(dialoutグループに加入)"},
+      {Port_Fault::No_Permission, "0", "プログラマ接続確認エラー。【1】使用権限なし(dialout)"},
       {Port_Fault::In_Use, "0", "プログラマ接続確認エラー。【1】ポートは使用中です。"},
       {Port_Fault::Gone, "0", "プログラマ接続確認エラー。【1】ポートが切断されました。"},
       {Port_Fault::None, "20", "プログラマ接続確認エラー。【】ポートがありません。"},

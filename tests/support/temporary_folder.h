@@ -1,17 +1,19 @@
 // A folder of a test's own, open to every user, gone with all that it holds when the test is over.
 #pragma once
 
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
-#include <stdexcept>
+#include <random>
 #include <string>
 
 class Temporary_Folder {
  public:
-  Temporary_Folder() : path((std::filesystem::temp_directory_path() / "wrenbit-test-XXXXXX").string()) {
-    if (mkdtemp(path.data()) == nullptr) throw std::runtime_error("no temporary folder " + path);
+  Temporary_Folder() {
+    std::random_device random;
+    do {
+      path = (std::filesystem::temp_directory_path() / ("wrenbit-test-" + std::to_string(random()))).string();
+    } while (!std::filesystem::create_directory(path));
     std::filesystem::permissions(path, std::filesystem::perms::all);
   }
   Temporary_Folder(const Temporary_Folder&) = delete;

@@ -1,0 +1,53 @@
+// The port settings window: what it tries, what it stores, and that it lets go of the port.
+#include "frm_com.h"
+
+#include <gtest/gtest.h>
+
+#include "test_bench.h"
+
+namespace wrenbit {
+namespace {
+
+TEST(Port_Window, ShowsWhatIsStoredAndTriesThePort) {
+  Test_Bench bench;
+  bench.Stored = {{"ComNo", "4"}, {"RTS", "0"}, {"DTR", "1"}};
+  frmCom.Show_Modal();
+  EXPECT_EQ(frmCom.Cmb_com.Text(), "5");
+  EXPECT_EQ(frmCom.CheckRTS.Value(), 0);
+  EXPECT_EQ(frmCom.CheckDTR.Value(), 1);
+  EXPECT_TRUE(bench.Is_Open());
+  frmCom.CheckRTS.Set_Value(1);
+  EXPECT_EQ(bench.Stored["RTS"], "1");
+  frmCom.Close();
+  EXPECT_FALSE(bench.Is_Open());
+  EXPECT_FALSE(frmCom.Visible());
+}
+
+TEST(Port_Window, APickIsStoredAlsoWhenThePortCannotBeUsed) {
+  Test_Bench bench;
+  frmCom.Show_Modal();
+  bench.Refusal = Port_Fault::No_Such_Port;
+  frmCom.Cmb_com.Set_ListIndex(19);
+  EXPECT_EQ(bench.Boxes, std::vector<std::string>{"wrenbit | 指定した通信ポートは使用できませんでした。"});
+  EXPECT_EQ(bench.Stored["ComNo"], "19");
+  EXPECT_FALSE(bench.Is_Open());
+  EXPECT_TRUE(frmCom.Visible());
+}
+
+TEST(Port_Window, ASecondClickWhileItLoadsLeavesAWindowThatCloses) {
+  Test_Bench bench;
+  bench.Stored["DTR"] = "1";  // Its check box yields while the window loads.
+  bench.On_Yield = [&] {
+    bench.On_Yield = nullptr;
+    frmCom.Show_Modal();
+    frmCom.Cmd_Close.Click();
+  };
+  frmCom.Show_Modal();
+  EXPECT_FALSE(frmCom.Visible());
+  frmCom.Show_Modal();
+  frmCom.Close();
+  EXPECT_FALSE(frmCom.Visible());
+}
+
+}  // namespace
+}  // namespace wrenbit
