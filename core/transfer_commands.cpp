@@ -28,6 +28,7 @@ void No_93Cxx_Engine() { Refuse_Transfer("93Cxxの転送にはまだ対応して
 
 using Engine = void (*)();
 void Run_Engine(Engine c24, Engine c93) {
+  if (!Image_Usable()) return Refuse_Transfer(kWrongSize);
   if (DeviceFamily == 2) c24();
   if (DeviceFamily == 3) c93();
 }

@@ -2,7 +2,6 @@
 
 #include "c24_bus.h"
 #include "frm_main.h"
-#include "image_buffer.h"
 #include "state.h"
 
 namespace wrenbit {
@@ -36,8 +35,8 @@ void Refuse_Transfer(const char* why) {
 
 bool C24_Refused() {
   const int reach = One_Address_Byte() ? 11 : 17;
-  if (Image_Usable() && MemSize <= reach) return false;
-  Refuse_Transfer("デバイスのメモリサイズが正しくありません。");
+  if (MemSize <= reach) return false;
+  Refuse_Transfer(kWrongSize);
   return true;
 }
 

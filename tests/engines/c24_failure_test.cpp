@@ -182,17 +182,20 @@ TEST(C24_Failure, NothingElseCanBeReachedWhileATransferRuns) {
 
 TEST(C24_Failure, AFamilyWithoutAnEngineSendsNothing) {
   const struct {
-    int Family;
+    int Family, MemSize;
     int Error;  // What a block read leaves.
     const char* Panel1;
-  } cases[] = {
-      {0, 0, "読み出し中....."}, {7, 0, "読み出し中....."}, {3, 1, "93Cxxの転送にはまだ対応していません。"}};
+    const char* Cell;
+  } cases[] = {{0, 8, 0, "読み出し中.....", "0xFF"},
+               {7, 8, 0, "読み出し中.....", "0xFF"},
+               {0, 0, 1, "デバイスのメモリサイズが正しくありません。", ""},
+               {3, 8, 1, "93Cxxの転送にはまだ対応していません。", "0x00"}};
   for (const auto& c : cases)
     for (const Command& command : kCommands) {
       SCOPED_TRACE(std::to_string(c.Family) + ", " + command.Name);
       Chip_Bench bench("24C02", "5.00");
-      Select_Device(c.Family, 8, 8, 1);
-      ImageBuffer.assign(256, 0);
+      Select_Device(c.Family, c.MemSize, 8, 1);
+      std::fill(ImageBuffer.begin(), ImageBuffer.end(), std::uint8_t{0});
       Grid_Refill();
       command.Run();
       EXPECT_TRUE(bench.Opened.empty());
@@ -200,7 +203,7 @@ TEST(C24_Failure, AFamilyWithoutAnEngineSendsNothing) {
       if (!command.Blanks) continue;
       EXPECT_EQ(LinkError, c.Error);
       EXPECT_EQ(Panel(1), c.Panel1);
-      EXPECT_EQ(frmMain.MSFGrid1.Cell(1, 1), c.Error ? "0x00" : "0xFF");
+      EXPECT_EQ(frmMain.MSFGrid1.Cell(1, 1), c.Cell);
     }
 }
 
