@@ -37,7 +37,7 @@ const char* Reason(Port_Fault fault) {
     case Port_Fault::No_Such_Port:
       return "ポートがありません。";
     case Port_Fault::No_Permission:
-      return "使用権限なし(dialout)";
+      return "使用権限なし(dialoutに加入)";
     case Port_Fault::In_Use:
       return "ポートは使用中です。";
     case Port_Fault::Gone:

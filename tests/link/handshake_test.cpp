@@ -119,7 +119,7 @@ TEST_F(Handshake_Test, APortThatCannotBeOpenedSendsNothingAndSaysWhy) {
     std::string Panel1;
   } cases[] = {
       {Port_Fault::No_Such_Port, "2", "プログラマ接続確認エラー。【3】ポートがありません。"},
-      {Port_Fault::No_Permission, "0", "プログラマ接続確認エラー。【1】使用権限なし(dialout)"},
+      {Port_Fault::No_Permission, "0", "プログラマ接続確認エラー。【1】使用権限なし(dialoutに加入)"},
       {Port_Fault::In_Use, "0", "プログラマ接続確認エラー。【1】ポートは使用中です。"},
       {Port_Fault::Gone, "0", "プログラマ接続確認エラー。【1】ポートが切断されました。"},
       {Port_Fault::None, "20", "プログラマ接続確認エラー。【】ポートがありません。"},
