@@ -1,11 +1,10 @@
 // Which device stands behind a COM number.
-#include "com_ports.h"
-
 #include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/file.h>
 #include <unistd.h>
 
+#include "com_ports.h"
 #include "temporary_folder.h"
 
 namespace wrenbit {

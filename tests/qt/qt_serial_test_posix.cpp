@@ -1,5 +1,3 @@
-#include "qt_serial.h"
-
 #include <fcntl.h>
 #include <gtest/gtest.h>
 #include <poll.h>
@@ -16,6 +14,7 @@
 #include <string>
 
 #include "platform.h"
+#include "qt_serial.h"
 
 namespace wrenbit {
 namespace {

@@ -1,5 +1,3 @@
-#include "whole_file.h"
-
 #include <gtest/gtest.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
@@ -10,6 +8,7 @@
 #include <fstream>
 
 #include "temporary_folder.h"
+#include "whole_file.h"
 
 namespace wrenbit {
 namespace {
