@@ -90,8 +90,8 @@ void Form_View::Hook_Form() {
     if (QWidget* view = View_Of(control)) view->setFocus();
   };
   form.View_Move = [this] {
-    const QPoint place(Pixels(form.Left()), Pixels(form.Top()));
     if (noting) return;  // The form is told where the window is, not the window where to go.
+    const QPoint place(Pixels(form.Left()), Pixels(form.Top()));
     placed = place;
     frame_corner = {};
     move(place);
@@ -127,13 +127,11 @@ void Form_View::Note_Position() {
   // the window stands where it was put; from there on only moves of the window itself count.
   if (pos() == placed) frame_corner = geometry().topLeft() - placed;
   const QPoint place = geometry().topLeft() - frame_corner;
-  if (place !=
-      QPoint(Pixels(form.Left()), Pixels(form.Top())))  // Else the form keeps its fractions of a pixel.
-  {
-    noting = true;
-    form.Move(place.x() * kTwipsPerPixel, place.y() * kTwipsPerPixel);
-    noting = false;
-  }
+  const QPoint known(Pixels(form.Left()), Pixels(form.Top()));
+  if (place == known) return;  // The form keeps its fractions of a pixel.
+  noting = true;
+  form.Move(place.x() * kTwipsPerPixel, place.y() * kTwipsPerPixel);
+  noting = false;
 }
 
 bool Form_View::event(QEvent* event) {

@@ -61,8 +61,8 @@ Program::Program(int& argc, char** argv)
       settings(Config_Folder() + QStringLiteral("/settings.ini")),
       serial((Config_Folder() + QStringLiteral("/ports")).toStdString()) {
   QApplication::setApplicationName(QString::fromStdString(App.Title));
-  QApplication::setStyle(
-      QStringLiteral("fusion"));  // The only one that looks, and fits, alike on every desktop.
+  // The only style that looks, and fits, alike on every desktop.
+  QApplication::setStyle(QStringLiteral("fusion"));
   QApplication::setFont(Font_For({}));
   // When the last window goes, the logic says whether the program ends.
   QApplication::setQuitOnLastWindowClosed(false);
