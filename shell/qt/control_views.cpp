@@ -208,7 +208,7 @@ QWidget* Menu_View(Menu& menu, QWidget* holder) {
   holder->addAction(action);
   QObject::connect(action, &QAction::triggered, action, [&menu] { Fire(menu.Click); });
   Follow(menu, [action, &menu, offered = drop_down || menu.Click] {
-    action->setText(Text_Of(menu.Caption()));
+    if (!menu.Separator()) action->setText(Text_Of(menu.Caption()));  // The line would show its dash.
     action->setEnabled(offered && menu.Enabled());
     action->setVisible(menu.Visible());
   });
