@@ -10,20 +10,8 @@ void Chip_Socket::Insert(std::unique_ptr<Chip> chip) {
   Settle();
 }
 
-std::unique_ptr<Chip> Chip_Socket::Remove() {
-  auto chip = std::exchange(Seated, nullptr);
-  if (chip) chip->Sense(Levels{}, Now);
-  Settle();
-  return chip;
-}
-
 void Chip_Socket::Stick(Line line, bool high) {
   Stuck[line] = high;
-  Settle();
-}
-
-void Chip_Socket::Free(Line line) {
-  Stuck[line].reset();
   Settle();
 }
 

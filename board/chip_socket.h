@@ -46,12 +46,9 @@ class Chip_Socket {
  public:
   // Replaces the chip in the socket, also with the supply on.
   void Insert(std::unique_ptr<Chip> chip);
-  // The chip, without supply; null when the socket is empty.
-  std::unique_ptr<Chip> Remove();
 
-  // A fault of the line: it keeps one level, whoever drives it, until it is freed.
+  // A fault of the line: it keeps one level, whoever drives it.
   void Stick(Line line, bool high);
-  void Free(Line line);
 
   // What the board does to the lines from `now` on, in seconds of wire time.
   void Follow(const Drives& by_board, double now);

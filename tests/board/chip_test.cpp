@@ -104,13 +104,6 @@ TEST(Two_Wire_Chip, Writes_Nothing_Unless_A_Stop_Follows_Whole_Bytes) {
   }
 }
 
-TEST(Two_Wire_Chip, Reads_From_The_Counter_Whatever_Block_The_Read_Control_Byte_Names) {
-  Bench on("24C16");
-  on.Store.Write(0, 0x12);
-  ASSERT_TRUE(on.Pc.Address(on.Part, 0));
-  EXPECT_EQ(on.Pc.Read_On(1, 0xAF), Bytes{0x12});
-}
-
 TEST(Two_Wire_Chip, Counts_On_Behind_A_Read_And_A_Write_Except_The_24C00_Behind_A_Write) {
   for (const auto& [name, behind_write] : {std::pair{"24C02", 0x06}, std::pair{"24C00", 0x55}}) {
     Bench on(name);
@@ -144,13 +137,6 @@ TEST(Two_Wire_Chip, Forgets_A_Frame_When_The_Supply_Goes) {
   on.Pc.Say("9", {0xA0});
   EXPECT_FALSE(on.Pc.Lines(4)) << "the chip acknowledges";
   EXPECT_TRUE(on.Pc.Power_Off()) << "and lets go without supply";
-}
-
-TEST(Make_Chip, Refuses_Unknown_Names_And_Stores_Of_Another_Size) {
-  board::Cell_Store store(256);
-  EXPECT_THROW(board::Make_Chip("24C99", store), std::invalid_argument);
-  EXPECT_THROW(board::Make_Chip("24C01", store), std::invalid_argument);
-  EXPECT_EQ(board::Two_Wire_Chips().size(), 29u);
 }
 
 }  // namespace

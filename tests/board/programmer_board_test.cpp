@@ -33,19 +33,6 @@ TEST(Programmer_Board, Says_Its_Version_And_Has_Accelerators_From_5_0_On) {
   }
 }
 
-TEST(Chip_Socket, Pulls_Released_Lines_Up_Only_While_It_Has_Supply) {
-  board::Programmer_Board programmer("5.00");
-  Test_Pc pc(programmer);
-  EXPECT_TRUE(pc.Power_Off());
-  EXPECT_TRUE(pc.Power_On());
-  EXPECT_TRUE(programmer.Supply());
-  pc.Say("mta", {0xFF});
-  EXPECT_EQ(pc.Pins("a", 6), 6);
-  pc.Say("mtb", {0xFF});
-  EXPECT_FALSE(programmer.Supply());
-  EXPECT_EQ(pc.Pins("a", 6), 0);
-}
-
 // Sits in the socket, writes down how the lines change, and drives one of them when a clock rises.
 class Probe : public board::Chip {
  public:

@@ -14,28 +14,6 @@ std::vector<std::string> Fields(std::string_view text, Quotes quotes) {
   return fields;
 }
 
-TEST(TextFieldReader, FieldsEndAtCommasAndLineEnds) {
-  const struct {
-    const char* text;
-    std::vector<std::string> fields;
-  } cases[] = {
-      {"", {}},
-      {"a", {"a"}},
-      {"a\n", {"a"}},
-      {"a\r\nb\rc\nd", {"a", "b", "c", "d"}},
-      {"a\n\r\n\rb", {"a", "", "", "b"}},
-      {"a,b\r\nc,", {"a", "b", "c"}},
-      {",\n,", {"", "", ""}},
-      {"  a b  ,\tc", {"a b  ", "\tc"}},
-      {"   ", {""}},
-      {"\x83\x5C,\x83\x7C", {"\x83\x5C", "\x83\x7C"}},
-  };
-  for (const auto& [text, fields] : cases) {
-    EXPECT_EQ(Fields(text, Quotes::Honoured), fields) << text;
-    EXPECT_EQ(Fields(text, Quotes::Plain), fields) << text;
-  }
-}
-
 TEST(TextFieldReader, QuotesHoldAFieldTogetherWhereTheyAreHonoured) {
   const struct {
     const char* text;

@@ -60,16 +60,6 @@ class Small_Disk {
   void (*const handler)(int);
 };
 
-TEST(WholeFile, GivesBackAllBytes) {
-  const Temporary_Folder folder;
-  for (const std::string& text :
-       {std::string(), std::string("\0\r\n\x1A\xFF", 5), std::string(3'000'000, 'x')}) {
-    EXPECT_EQ(Write_Whole_File(folder / "a.hex", text), std::nullopt);
-    EXPECT_EQ(Read_Whole_File(folder / "a.hex"), text);
-  }
-  EXPECT_EQ(folder.Entries(), 1);
-}
-
 TEST(WholeFile, ReadsNothingButRegularFiles) {
   const Temporary_Folder folder;
   ASSERT_EQ(mkfifo((folder / "pipe").c_str(), 0666), 0);
