@@ -1,8 +1,8 @@
 #include "hex_grid.h"
 
+#include "byte_texts.h"
 #include "cell_address.h"
 #include "cell_selection.h"
-#include "code_page_932.h"
 #include "frm_main.h"
 #include "hex_text.h"
 #include "image_buffer.h"
@@ -28,14 +28,6 @@ void Grid_Format() {
   }
   grid.Set_ColWidth(kAsciiCol, 2000);
   grid.Set_ColAlignment(kAsciiCol, Alignment::Left);
-}
-
-// What the ASCII column shows after a refill. Blank, double quote and comma would be lost to the eye, or part
-// the cells of a row where it is pasted elsewhere: they show as the dot.
-std::string Refill_Character(std::uint8_t byte) {
-  const bool shown =
-      (byte >= 0x21 && byte <= 0x7F && byte != '"' && byte != ',') || (byte >= 0xA0 && byte <= 0xDF);
-  return shown ? Cp932_Character(byte) : std::string(kCp932Dot);
 }
 
 // The texts of all byte values, worked out once: a refill joins them by the ten thousand.
@@ -73,8 +65,6 @@ void Fill_Rows() {
 }
 
 }  // namespace
-
-std::string Byte_Cell(std::uint8_t byte) { return "0x" + Hex_Text(byte, 2); }
 
 void Grid_Refill() {
   frmMain.Set_MousePointer(Pointer::Hourglass);

@@ -1,12 +1,12 @@
 #include "c24_byte.h"
 
+#include "byte_texts.h"
 #include "c24_bus.h"
 #include "c24_control.h"
 #include "cell_address.h"
 #include "cell_selection.h"
 #include "frm_main.h"
 #include "handshake.h"
-#include "hex_grid.h"
 #include "state.h"
 
 namespace wrenbit {

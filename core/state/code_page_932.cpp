@@ -25,6 +25,13 @@ std::string Cp932_Character(std::uint8_t byte) {
   return Utf8(0xF8F1u + byte - 0xFDu);                    // Private use.
 }
 
+std::optional<std::uint8_t> Cp932_Byte(std::string_view character) {
+  if (character.empty()) return std::nullopt;
+  for (unsigned byte = 0; byte <= 0xFF; ++byte)
+    if (Cp932_Character(static_cast<std::uint8_t>(byte)) == character) return static_cast<std::uint8_t>(byte);
+  return std::nullopt;
+}
+
 std::size_t Cp932_Length(std::string_view text) {
   const auto byte = [&](std::size_t at) { return static_cast<std::uint8_t>(text[at]); };
   return text.size() > 1 && Is_Lead(byte(0)) && Is_Trail(byte(1)) ? 2 : 1;

@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -14,6 +15,9 @@ inline constexpr std::string_view kCp932Dot = "\uFF65";
 
 // UTF-8 of the single-byte character with that code, as Windows shows it; the empty text for a lead byte.
 std::string Cp932_Character(std::uint8_t byte);
+
+// The code of a UTF-8 character; nothing when the code page lacks it or gives it two bytes.
+std::optional<std::uint8_t> Cp932_Byte(std::string_view character);
 
 // UTF-8 of a double-byte character; the empty text when there is none, or the platform has no table of them.
 std::string Cp932_Character(std::uint8_t lead, std::uint8_t trail);

@@ -2,8 +2,11 @@
 // a view follows it. Controls are plain objects; without a view they behave the same and nothing shows.
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <string>
+
+#include "picture.h"
 
 namespace wrenbit {
 
@@ -17,8 +20,14 @@ struct Place {
   int Height = 0;
 };
 
+enum class Typeface {
+  Proportional,  // "MS UI Gothic" or a relative.
+  FixedPitch,    // "ＭＳ ゴシック" or a relative.
+  Display,       // "Arial Black" or a relative.
+};
+
 struct Font {
-  bool FixedPitch = false;
+  Typeface Face = Typeface::Proportional;
   double Points = 9;
 };
 
@@ -50,6 +59,8 @@ class Control {
 
   const Place At;
   const Font Lettering;
+  // What a screen reader calls the control. Empty where the caption says it.
+  std::string AccessibleName;
 
   // Called after any property has changed. Set by the view, and by nobody else.
   std::function<void()> Changed;
@@ -99,12 +110,28 @@ class Captioned : public Control {
 
 enum class Alignment { Left = 1, Centre = 4, Right = 7 };
 
+inline constexpr std::uint32_t kBlack = 0x000000;  // Red, green, blue.
+
 class Label : public Captioned {
  public:
   Label(Control& holder, Place place, std::string first_caption, Font font = {},
-        Alignment alignment = Alignment::Left)
-      : Captioned(holder, place, std::move(first_caption), font), Align(alignment) {}
+        Alignment alignment = Alignment::Left, std::uint32_t colour = kBlack)
+      : Captioned(holder, place, std::move(first_caption), font), Align(alignment), ForeColor(colour) {}
   const Alignment Align;
+  const std::uint32_t ForeColor;
+};
+
+class PictureBox : public Control {
+ public:
+  PictureBox(Control& holder, Place place, Picture picture) : Control(holder, place), Image(picture) {}
+  const Picture Image;
+};
+
+// A thin rule across its place.
+class Line : public Control {
+ public:
+  Line(Control& holder, Place place, std::uint32_t colour) : Control(holder, place), Colour(colour) {}
+  const std::uint32_t Colour;
 };
 
 class Frame : public Captioned {
@@ -115,7 +142,12 @@ class Frame : public Captioned {
 
 class CommandButton : public Captioned {
  public:
-  using Captioned::Captioned;
+  CommandButton(Control& holder, Place place, std::string first_caption, Font font = {},
+                Picture picture = Picture::None)
+      : Captioned(holder, place, std::move(first_caption), font), Image(picture) {}
+  const Picture Image;   // Above the caption.
+  bool Default = false;  // The enter key presses it, unless another button has the focus.
+  bool Cancel = false;   // The escape key presses it.
   std::function<void()> Click;
 };
 

@@ -51,6 +51,7 @@ class Form : public Captioned {
   const int Client_Width;
   const int Client_Height;
 
+  std::function<void()> Form_KeyPress;  // A key that no control took.
   std::function<void()> Form_Load;
   std::function<void()> Form_Unload;
   std::function<void()> Close_Asked;

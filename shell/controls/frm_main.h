@@ -9,29 +9,40 @@
 
 namespace wrenbit {
 
-inline constexpr Font kFixed9{.FixedPitch = true, .Points = 9};
-inline constexpr Font kFixed9_75{.FixedPitch = true, .Points = 9.75};
-inline constexpr Font kFixed11_25{.FixedPitch = true, .Points = 11.25};
-inline constexpr Font kToolRow{.FixedPitch = false, .Points = 8.25};
+inline constexpr Font kFixed9{.Face = Typeface::FixedPitch, .Points = 9};
+inline constexpr Font kFixed9_75{.Face = Typeface::FixedPitch, .Points = 9.75};
+inline constexpr Font kFixed11_25{.Face = Typeface::FixedPitch, .Points = 11.25};
+inline constexpr Font kToolRow{.Points = 8.25};
 
 struct Frm_Main : Form {
-  Frm_Main() : Form(10275, 7035) { Lbl_memo.Set_Visible(false); }
+  Frm_Main() : Form(10275, 7035) {
+    Lbl_memo.Set_Visible(false);
+    Combo_device.AccessibleName = "デバイス";
+    CmbSize.AccessibleName = "ブロックサイズ (Byte)";
+    Text_modify_hex.AccessibleName = "データ Hex";
+    Text_modify_dec.AccessibleName = "データ Dec";
+    Text_modify_asc.AccessibleName = "データ Ascii";
+    for (std::size_t bit = 0; bit < ChkBin.size(); ++bit)
+      ChkBin[bit].AccessibleName = "ビット" + std::to_string(bit);
+    MSFGrid1.AccessibleName = "バッファ";
+    sbStatusBar.AccessibleName = "ステータスバー";
+  }
 
-  CommandButton Cmd_Open{*this, {135, 135, 915, 780}, "開く", kToolRow};
-  CommandButton Cmd_SaveAs{*this, {1035, 135, 915, 780}, "保存", kToolRow};
-  CommandButton Cmd_Port{*this, {1935, 135, 915, 780}, "通信ポート", kToolRow};
+  CommandButton Cmd_Open{*this, {135, 135, 915, 780}, "開く", kToolRow, Picture::Open};
+  CommandButton Cmd_SaveAs{*this, {1035, 135, 915, 780}, "保存", kToolRow, Picture::Save};
+  CommandButton Cmd_Port{*this, {1935, 135, 915, 780}, "通信ポート", kToolRow, Picture::Port};
   ComboBox Combo_device{*this, {135, 990, 2715, 345}, kFixed11_25};
 
   Frame Frame3{*this, {3015, 90, 2445, 1455}, "バイト アクセス"};
   Label Label4{Frame3, {90, 270, 2265, 240}, "１Byteのリードとライト"};
-  CommandButton Cmd_READ_single{Frame3, {90, 585, 1140, 780}, "Byte Read"};
-  CommandButton Cmd_WRITE_single{Frame3, {1215, 585, 1140, 780}, "Byte Write"};
+  CommandButton Cmd_READ_single{Frame3, {90, 585, 1140, 780}, "Byte Read", {}, Picture::Byte_Read};
+  CommandButton Cmd_WRITE_single{Frame3, {1215, 585, 1140, 780}, "Byte Write", {}, Picture::Byte_Write};
 
   Frame Frame2{*this, {5490, 90, 2445, 1455}, "ブロック アクセス"};
   Label Label3{Frame2, {180, 270, 1095, 240}, "サイズ(Byte)"};
   ComboBox CmbSize{Frame2, {1215, 225, 1005, 300}, kFixed9};
-  CommandButton Cmd_READ_all{Frame2, {90, 585, 1140, 780}, "Block Read"};
-  CommandButton Cmd_WRITE_all{Frame2, {1215, 585, 1140, 780}, "Block Write"};
+  CommandButton Cmd_READ_all{Frame2, {90, 585, 1140, 780}, "Block Read", {}, Picture::Block_Read};
+  CommandButton Cmd_WRITE_all{Frame2, {1215, 585, 1140, 780}, "Block Write", {}, Picture::Block_Write};
 
   Frame Frame1{*this, {8100, 90, 2040, 1455}, "データ変更"};
   std::array<Label, 4> Label2{{{Frame1, {90, 270, 480, 195}, "Hex"},
@@ -50,6 +61,10 @@ struct Frm_Main : Form {
                                   {Frame1, {765, 1125, 195, 195}, ""},
                                   {Frame1, {585, 1125, 195, 195}, ""},
                                   {Frame1, {405, 1125, 195, 195}, ""}}};
+
+  // A sunken rule under the menu bar.
+  Line Line1{*this, {0, 0, 10275, 15}, 0x808080};
+  Line Line2{*this, {0, 20, 10275, 15}, 0xFFFFFF};
 
   Label Lbl_PageSize{*this, {180, 1395, 2805, 465}, "", kFixed9};
   Label LblCheckSUM{*this, {8820, 1620, 1275, 195}, "CheckSum:xxxx", kFixed9, Alignment::Right};

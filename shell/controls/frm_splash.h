@@ -6,19 +6,19 @@
 namespace wrenbit {
 
 struct Frm_Splash : Form {
+  static constexpr Font kDisplay{.Face = Typeface::Display, .Points = 32.25};
+
   Frm_Splash() : Form(6525, 3180) {}
 
   Frame Frame1{*this, {120, 45, 6285, 3015}, ""};
-  // Two names a few twips apart, so that they read as one with a shadow.
-  Label lblProductNameA{Frame1, {345, 885, 5670, 870}, "WRENBIT", {.Points = 32.25}, Alignment::Centre};
-  Label lblProductName{Frame1, {315, 855, 5670, 870}, "WRENBIT", {.Points = 32.25}, Alignment::Centre};
+  PictureBox imgLogo{Frame1, {240, 495, 1890, 1890}, Picture::Logo};
   Label Label2{
-      Frame1, {315, 420, 5670, 300}, "ＷＲＥＮＢＩＴプログラマー", {.Points = 12}, Alignment::Centre};
-  Label lblVersion{Frame1, {315, 1800, 5670, 270}, "ﾊﾞｰｼﾞｮﾝ", {}, Alignment::Centre};
-  Label Label1{Frame1, {315, 2460, 5670, 300}, "しばらくお待ちください。", {}, Alignment::Centre};
-
-  // A key pressed while the window has the focus, whichever it is.
-  std::function<void()> Form_KeyPress;
+      Frame1, {2190, 420, 3930, 300}, "ＷＲＥＮＢＩＴプログラマー", {.Points = 12}, Alignment::Centre};
+  // Two names a few twips apart, so that they read as one with a shadow.
+  Label lblProductNameA{Frame1, {2220, 885, 3930, 870}, "WRENBIT", kDisplay, Alignment::Centre, 0xB8B8B8};
+  Label lblProductName{Frame1, {2190, 855, 3930, 870}, "WRENBIT", kDisplay, Alignment::Centre, 0x17365D};
+  Label lblVersion{Frame1, {2190, 1800, 3930, 270}, "ﾊﾞｰｼﾞｮﾝ", {}, Alignment::Centre};
+  Label Label1{Frame1, {2190, 2460, 3930, 300}, "しばらくお待ちください。", {}, Alignment::Centre};
 };
 
 inline Frm_Splash frmSplash;

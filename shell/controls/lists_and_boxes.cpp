@@ -8,7 +8,12 @@ TextBox::TextBox(Control& holder, Place place, int max_length, Font font)
     : Control(holder, place, font), MaxLength(max_length) {}
 
 void TextBox::Set_Text(std::string value) {
-  if (value == text) return;
+  if (value != text) Take(std::move(value));
+}
+
+void TextBox::Edit(std::string value) { Take(std::move(value)); }
+
+void TextBox::Take(std::string value) {
   selected = 0;
   text = std::move(value);
   Tell();

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <array>
+#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -18,6 +19,8 @@ class TextBox : public Control {
   // UTF-8. Given the text that it has, the box fires nothing.
   const std::string& Text() const { return text; }
   void Set_Text(std::string value);
+  // What the user has made of the text. Fires Change also when it reads as before.
+  void Edit(std::string value);
 
   // How many characters from the first on are selected, at most all.
   int SelLength() const { return selected; }
@@ -26,8 +29,13 @@ class TextBox : public Control {
 
   const int MaxLength;
   std::function<void()> Change;
+  // Each key before it comes into the text: the code of its character (UTF-16), which the handler may change.
+  // 0 drops the key.
+  std::function<void(std::int16_t& key)> KeyPress;
 
  private:
+  void Take(std::string value);
+
   std::string text;
   int selected = 0;
 };
@@ -65,6 +73,8 @@ class ComboBox : public Control {
   void Reset() override;
 
   std::function<void()> Click;
+  // What there is to say about an entry. Asked whenever it is to be told.
+  std::function<std::string(int number)> Tip;
 
  private:
   std::vector<std::string> items;

@@ -12,10 +12,13 @@
 #include <QPainter>
 #include <QPushButton>
 #include <QStyleOption>
+#include <QStylePainter>
+#include <utility>
 
 #include "grid_view.h"
 #include "lists_and_boxes.h"
 #include "look.h"
+#include "pictures.h"
 
 namespace wrenbit {
 namespace {
@@ -34,6 +37,7 @@ template <class Widget, class Show>
 Widget* Placed(Widget* view, Control& control, Show show) {
   view->setGeometry(Pixels(control.At));
   view->setFont(Font_For(control.Lettering));
+  view->setAccessibleName(Text_Of(control.AccessibleName));
   Follow(control, [view, &control, show] {
     view->setEnabled(control.Enabled());
     view->setVisible(control.Visible());
@@ -55,6 +59,9 @@ QWidget* Label_View(Label& label, QWidget* holder) {
   view->setAlignment(Qt::AlignTop | (label.Align == Alignment::Left     ? Qt::AlignLeft
                                      : label.Align == Alignment::Centre ? Qt::AlignHCenter
                                                                         : Qt::AlignRight));
+  QPalette colours = view->palette();
+  colours.setColor(QPalette::WindowText, QColor(label.ForeColor));
+  view->setPalette(colours);
   return Placed(view, label, [view, &label] { view->setText(Text_Of(label.Caption())); });
 }
 
@@ -90,8 +97,46 @@ QWidget* Frame_View(Frame& frame, QWidget* holder) {
   return Placed(view, frame, [view, &frame] { view->setTitle(Text_Of(frame.Caption())); });
 }
 
+QWidget* Picture_View(PictureBox& box, QWidget* holder) {
+  auto* view = new QLabel(holder);
+  view->setPixmap(Icon_Of(box.Image).pixmap(Pixels(box.At).size()));
+  return Placed(view, box, [] {});
+}
+
+QWidget* Line_View(Line& line, QWidget* holder) {
+  auto* view = new QWidget(holder);
+  view->setPalette(QColor(line.Colour));
+  view->setAutoFillBackground(true);
+  return Placed(view, line, [] {});
+}
+
+// A button that has a picture shows it above its caption.
+class Push_Button : public QPushButton {
+ public:
+  using QPushButton::QPushButton;
+
+ protected:
+  void paintEvent(QPaintEvent* event) override {
+    if (icon().isNull()) return QPushButton::paintEvent(event);
+    constexpr int kSide = 32;
+    QStylePainter painter(this);
+    QStyleOptionButton option;
+    initStyleOption(&option);
+    option.icon = {};
+    option.text.clear();
+    painter.drawControl(QStyle::CE_PushButton, option);
+    const QRect room = rect().translated(0, isDown() ? 1 : 0);
+    const QRect place((room.width() - kSide) / 2, room.top() + 2, kSide, kSide);
+    icon().paint(&painter, place, Qt::AlignCenter, isEnabled() ? QIcon::Normal : QIcon::Disabled);
+    painter.drawItemText(room.adjusted(0, kSide + 2, 0, -2), Qt::AlignCenter, palette(), isEnabled(), text(),
+                         QPalette::ButtonText);
+  }
+};
+
 QWidget* Button_View(CommandButton& button, QWidget* holder) {
-  auto* view = new QPushButton(holder);
+  auto* view = new Push_Button(holder);
+  view->setIcon(Icon_Of(button.Image));
+  view->setDefault(button.Default);
   view->setAutoDefault(true);  // The enter key presses the button that has the focus.
   QObject::connect(view, &QPushButton::clicked, view, [&button] { Fire(button.Click); });
   return Placed(view, button, [view, &button] {
@@ -100,8 +145,58 @@ QWidget* Button_View(CommandButton& button, QWidget* holder) {
   });
 }
 
+class Edit_Line : public QLineEdit {
+ public:
+  Edit_Line(TextBox& shown, QWidget* holder) : QLineEdit(holder), box(shown) {}
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override {
+    // Shortcuts and keys that only move or delete are no characters.
+    const bool character = !event->text().isEmpty() && event->key() != Qt::Key_Delete &&
+                           !(event->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier));
+    const QString passed = character ? Passed(event->text()) : event->text();
+    if (passed == event->text()) return QLineEdit::keyPressEvent(event);
+    if (passed.isEmpty()) return;
+    QKeyEvent changed(event->type(), event->key(), event->modifiers(), passed);
+    QLineEdit::keyPressEvent(&changed);
+  }
+
+  void inputMethodEvent(QInputMethodEvent* event) override {
+    const QString passed = Passed(event->commitString());
+    if (passed == event->commitString()) return QLineEdit::inputMethodEvent(event);
+    QInputMethodEvent changed(event->preeditString(), event->attributes());
+    changed.setCommitString(passed, event->replacementStart(), event->replacementLength());
+    QLineEdit::inputMethodEvent(&changed);
+  }
+
+  // The click that comes into the box selects what is there: a full box would take no key otherwise.
+  void focusInEvent(QFocusEvent* event) override {
+    QLineEdit::focusInEvent(event);
+    entered = event->reason() == Qt::MouseFocusReason;
+  }
+  void mouseReleaseEvent(QMouseEvent* event) override {
+    QLineEdit::mouseReleaseEvent(event);
+    if (std::exchange(entered, false) && !hasSelectedText()) selectAll();
+  }
+
+ private:
+  QString Passed(const QString& characters) const {
+    if (!box.KeyPress) return characters;
+    QString passed;
+    for (const QChar character : characters) {
+      auto key = static_cast<std::int16_t>(character.unicode());
+      box.KeyPress(key);
+      if (key != 0) passed += QChar(static_cast<char16_t>(key));
+    }
+    return passed;
+  }
+
+  TextBox& box;
+  bool entered = false;
+};
+
 QWidget* Text_Box_View(TextBox& box, QWidget* holder) {
-  auto* view = new QLineEdit(holder);
+  auto* view = new Edit_Line(box, holder);
   view->setMaxLength(box.MaxLength);
   view->setReadOnly(!box.Change);
   // A thin edge, because the box is hardly higher than its letters.
@@ -110,7 +205,11 @@ QWidget* Text_Box_View(TextBox& box, QWidget* holder) {
       "QLineEdit:focus { border-color: palette(highlight); }"
       "QLineEdit:disabled { background: palette(window); }"));
   QObject::connect(view, &QLineEdit::textEdited, view,
-                   [&box](const QString& text) { box.Set_Text(text.toStdString()); });
+                   [&box](const QString& text) { box.Edit(text.toStdString()); });
+  // A screen reader writes the text without editing it.
+  QObject::connect(view, &QLineEdit::textChanged, view, [view, &box] {
+    if (view->text() != Text_Of(box.Text())) box.Edit(view->text().toStdString());
+  });
   QObject::connect(view, &QLineEdit::selectionChanged, view, [view, &box] {
     if (view->selectionLength() != box.SelLength()) box.Set_SelLength(view->selectionLength());
   });
@@ -139,7 +238,7 @@ class Bare_Check_Box : public QCheckBox {
 QWidget* Check_Box_View(CheckBox& box, QWidget* holder) {
   auto* view = box.Caption().empty() ? new Bare_Check_Box(holder) : new QCheckBox(holder);
   if (!box.Click) Withhold(view);
-  QObject::connect(view, &QCheckBox::clicked, view, [&box](bool checked) { box.Set_Value(checked); });
+  QObject::connect(view, &QCheckBox::toggled, view, [&box](bool checked) { box.Set_Value(checked); });
   return Placed(view, box, [view, &box] {
     view->setText(Text_Of(box.Caption()));
     view->setChecked(box.Value() != 0);
@@ -148,15 +247,28 @@ QWidget* Check_Box_View(CheckBox& box, QWidget* holder) {
 
 class Drop_Down : public QComboBox {
  public:
-  using QComboBox::QComboBox;
+  Drop_Down(ComboBox& shown, QWidget* holder) : QComboBox(holder), box(shown) {}
+
+  void showPopup() override {
+    for (int i = 0; box.Tip && i < count(); ++i) setItemData(i, Text_Of(box.Tip(i)), Qt::ToolTipRole);
+    QComboBox::showPopup();
+  }
 
  protected:
+  bool event(QEvent* event) override {
+    if (event->type() == QEvent::ToolTip && box.Tip && box.ListIndex() >= 0)
+      setToolTip(Text_Of(box.Tip(box.ListIndex())));
+    return QComboBox::event(event);
+  }
   // A wheel that only rolls past must not pick another chip, which costs the image.
   void wheelEvent(QWheelEvent* event) override { event->ignore(); }
+
+ private:
+  ComboBox& box;
 };
 
 QWidget* Combo_Box_View(ComboBox& box, QWidget* holder) {
-  auto* view = new Drop_Down(holder);
+  auto* view = new Drop_Down(box, holder);
   if (!box.Click) Withhold(view);
   QObject::connect(view, &QComboBox::activated, view, [&box](int index) { box.Set_ListIndex(index); });
   return Placed(view, box, [view, &box] {
@@ -225,6 +337,8 @@ QWidget* Grid_View_Of(FlexGrid& grid, QWidget* holder) {
 QWidget* Make_View(Control& control, QWidget* holder) {
   if (auto* label = dynamic_cast<Label*>(&control)) return Label_View(*label, holder);
   if (auto* frame = dynamic_cast<Frame*>(&control)) return Frame_View(*frame, holder);
+  if (auto* box = dynamic_cast<PictureBox*>(&control)) return Picture_View(*box, holder);
+  if (auto* line = dynamic_cast<Line*>(&control)) return Line_View(*line, holder);
   if (auto* button = dynamic_cast<CommandButton*>(&control)) return Button_View(*button, holder);
   if (auto* box = dynamic_cast<TextBox*>(&control)) return Text_Box_View(*box, holder);
   if (auto* box = dynamic_cast<CheckBox*>(&control)) return Check_Box_View(*box, holder);

@@ -5,7 +5,6 @@
 #include <QLayout>
 #include <QMenuBar>
 #include <QScreen>
-#include <algorithm>
 
 #include "control_views.h"
 #include "look.h"
@@ -25,16 +24,6 @@ Qt::WindowFlags Flags(Form_Kind kind) {
       break;
   }
   return Qt::Window | bar | Qt::WindowMinimizeButtonHint;
-}
-
-// The rule under the menu bar looks sunken: a grey line and, 20 twips below, a white one.
-void Add_Sunken_Rule(QWidget* client) {
-  for (const auto& [top, colour] : {std::pair(0, 0x808080u), std::pair(Pixels(20), 0xFFFFFFu)}) {
-    auto* line = new QWidget(client);
-    line->setGeometry(0, top, client->width(), 1);
-    line->setPalette(QColor(colour));
-    line->setAutoFillBackground(true);
-  }
 }
 
 bool Is_Menu(const Control* control) { return dynamic_cast<const Menu*>(control) != nullptr; }
@@ -60,7 +49,6 @@ void Form_View::Make_Views() {
   auto* client = new QWidget;
   client->setFixedSize(Pixels(form.Client_Width), Pixels(form.Client_Height));
   setCentralWidget(client);
-  if (std::any_of(form.Controls().begin(), form.Controls().end(), Is_Menu)) Add_Sunken_Rule(client);
   for (Control* control : form.Controls()) {
     QWidget* holder = control->Container() != &form ? View_Of(*control->Container())
                       : Is_Menu(control)            ? menuBar()
@@ -151,7 +139,13 @@ void Form_View::changeEvent(QEvent* event) {
 }
 
 void Form_View::keyPressEvent(QKeyEvent* event) {
-  if (Key_Pressed) Key_Pressed(event->key());
+  Fire(form.Form_KeyPress);
+  const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+  const bool escape = event->key() == Qt::Key_Escape;
+  for (Control* control : form.Controls())
+    if (auto* button = dynamic_cast<CommandButton*>(control);
+        button && ((enter && button->Default) || (escape && button->Cancel)))
+      return Fire(button->Click);
 }
 
 }  // namespace wrenbit

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <QMainWindow>
-#include <functional>
 #include <unordered_map>
 
 #include "form.h"
@@ -23,9 +22,6 @@ class Form_View : public QMainWindow {
 
   // The view of one of the form's controls; null for a menu's entry and for what is not shown at all.
   QWidget* View_Of(const Control& control) const;
-
-  // A key that nothing on the window had a use for (Qt::Key).
-  std::function<void(int key)> Key_Pressed;
 
  protected:
   bool event(QEvent* event) override;

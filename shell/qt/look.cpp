@@ -37,9 +37,14 @@ QRect Pixels(const Place& place) {
 QFont Font_For(const Font& lettering) {
   static const QString fixed = Family(true);
   static const QString proportional = Family(false);
-  QFont font(lettering.FixedPitch ? fixed : proportional);
+  QFont font(lettering.Face == Typeface::FixedPitch ? fixed : proportional);
+  if (lettering.Face == Typeface::Display) {
+    font.setFamilies({QStringLiteral("Arial Black"), QStringLiteral("Liberation Sans"),
+                      QStringLiteral("DejaVu Sans"), proportional});
+    font.setWeight(QFont::Black);
+  }
   font.setPixelSize(static_cast<int>(std::lround(lettering.Points * 96 / 72)));
-  if (lettering.FixedPitch) font.setStyleHint(QFont::Monospace);
+  if (lettering.Face == Typeface::FixedPitch) font.setStyleHint(QFont::Monospace);
   return font;
 }
 

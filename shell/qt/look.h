@@ -16,7 +16,8 @@ int Pixels(double twips);
 // Both edges are rounded, so that what touches in twips touches on the screen.
 QRect Pixels(const Place& place);
 
-// "ＭＳ ゴシック" or "MS UI Gothic" where it is installed, else a Japanese font of the same kind.
+// The typeface's own font where it is installed, else a relative of it that is: a Japanese one of the same
+// kind, or a heavy one for display.
 QFont Font_For(const Font& lettering);
 
 }  // namespace wrenbit

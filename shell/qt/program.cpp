@@ -9,25 +9,13 @@
 #include "end_signals.h"
 #include "file_dialog.h"
 #include "look.h"
+#include "pictures.h"
 #include "start.h"
 #include "windows.h"
 #include "wiring.h"
 
 namespace wrenbit {
 namespace {
-
-// The names that a screen reader says where no caption tells.
-void Name_Views(const Form_View& window) {
-  const std::pair<const Control&, const char*> names[] = {
-      {frmMain.Combo_device, "デバイス"},         {frmMain.CmbSize, "ブロックサイズ"},
-      {frmMain.Text_modify_hex, "データ 16進数"}, {frmMain.Text_modify_dec, "データ 10進数"},
-      {frmMain.Text_modify_asc, "データ 文字"},   {frmMain.MSFGrid1, "バッファ"},
-  };
-  for (const auto& [control, name] : names)
-    window.View_Of(control)->setAccessibleName(QString::fromUtf8(name));
-  for (std::size_t bit = 0; bit < frmMain.ChkBin.size(); ++bit)
-    window.View_Of(frmMain.ChkBin[bit])->setAccessibleName(QStringLiteral("ビット%1").arg(bit));
-}
 
 // The bits were made from the lowest up; the eye reads from the highest down.
 void Order_Tabs(const Form_View& window) {
@@ -64,6 +52,7 @@ Program::Program(int& argc, char** argv)
   // The only style that looks, and fits, alike on every desktop.
   QApplication::setStyle(QStringLiteral("fusion"));
   QApplication::setFont(Font_For({}));
+  QApplication::setWindowIcon(Icon_Of(Picture::Program));
   // When the last window goes, the logic says whether the program ends.
   QApplication::setQuitOnLastWindowClosed(false);
   // Qt's own dialogs in Japanese, where its translations are installed.
@@ -92,19 +81,13 @@ Program::~Program() {
 
 void Program::Make_Windows() {
   main_window = std::make_unique<Form_View>(frmMain, Form_Kind::Main);
-  Name_Views(*main_window);
   Order_Tabs(*main_window);
   Offer_File_Dialogs(frmMain.dlgCommonDialog, main_window.get());
 
   com_window = std::make_unique<Form_View>(frmCom, Form_Kind::Dialog, main_window.get());
 
   about_window = std::make_unique<Form_View>(frmAbout, Form_Kind::Dialog, main_window.get());
-  about_window->Key_Pressed = [](int key) {
-    if (key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Escape) Fire(frmAbout.cmdOK.Click);
-  };
-
   splash_window = std::make_unique<Form_View>(frmSplash, Form_Kind::Splash);
-  splash_window->Key_Pressed = [](int) { Fire(frmSplash.Form_KeyPress); };
 }
 
 bool Program::Start() { return Main(); }

@@ -4,6 +4,7 @@
 
 #include "cell_selection.h"
 #include "device_selection.h"
+#include "edit_panel.h"
 #include "file_commands.h"
 #include "hex_grid.h"
 #include "number_text.h"
@@ -59,6 +60,11 @@ void Wire_frmMain() {
   frmMain.Combo_device.Click = Combo_device_Click;
   frmMain.CmbSize.Click = CmbSize_Click;
   frmMain.MSFGrid1.Click = MSFGrid1_Click;
+  frmMain.Text_modify_hex.KeyPress = Text_modify_hex_KeyPress;
+  frmMain.Text_modify_hex.Change = Text_modify_hex_Change;
+  frmMain.Text_modify_dec.Change = Text_modify_dec_Change;
+  frmMain.Text_modify_asc.Change = Text_modify_asc_Change;
+  for (CheckBox& bit : frmMain.ChkBin) bit.Click = ChkBin_Click;
 
   frmMain.Cmd_READ_all.Click = Cmd_READ_all_Click;
   frmMain.Cmd_WRITE_all.Click = Cmd_WRITE_all_Click;

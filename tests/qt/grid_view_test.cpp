@@ -29,7 +29,7 @@ class GridView : public testing::Test {
   }
 
   Form form{10275, 7035};
-  FlexGrid grid{form, {135, 1800, 10005, 4560}, {.FixedPitch = true, .Points = 9}};
+  FlexGrid grid{form, {135, 1800, 10005, 4560}, {.Face = Typeface::FixedPitch}};
   Form_View window{form, Form_Kind::Dialog};
   Grid_View& view = dynamic_cast<Grid_View&>(*window.View_Of(grid));
   int clicks = 0;
