@@ -8,11 +8,21 @@
 #include "com_ports.h"
 
 namespace wrenbit {
+namespace {
 
-std::vector<Serial_Device> Serial_Devices_Present() {
+std::string First_Line(const std::filesystem::path& file) {
+  std::ifstream content(file);
+  std::string line;
+  std::getline(content, line);
+  return line;
+}
+
+}  // namespace
+
+std::vector<Serial_Device> Serial_Devices_Present(const std::filesystem::path& system_folder) {
   std::vector<Serial_Device> present;
   std::error_code error;
-  for (std::filesystem::directory_iterator tty("/sys/class/tty", error), end; !error && tty != end;
+  for (std::filesystem::directory_iterator tty(system_folder / "class/tty", error), end; !error && tty != end;
        tty.increment(error)) {
     // Consoles and pseudo terminals have no device behind them.
     std::error_code none;
@@ -21,8 +31,16 @@ std::vector<Serial_Device> Serial_Devices_Present() {
     // The kernel offers more built-in ports than there are chips; those without have type 0, PORT_UNKNOWN.
     std::ifstream type_file(tty->path() / "type");
     if (int type = 0; type_file >> type && type == 0) continue;
-    present.push_back({.Path = "/dev/" + tty->path().filename().string(),
-                       .Usb = hardware.string().find("/usb") != std::string::npos});
+    Serial_Device device{.Path = "/dev/" + tty->path().filename().string(),
+                         .Usb = hardware.string().find("/usb") != std::string::npos};
+    // The port lies one or two folders below the USB device that has it.
+    for (std::filesystem::path at = hardware; device.Usb && at.has_relative_path(); at = at.parent_path()) {
+      if (!std::filesystem::exists(at / "idVendor", none)) continue;
+      device.Maker = First_Line(at / "manufacturer");
+      device.Product = First_Line(at / "product");
+      break;
+    }
+    present.push_back(std::move(device));
   }
   return present;
 }

@@ -4,6 +4,7 @@
 
 #include "code_page_932.h"
 #include "com_ports.h"
+#include "frm_com.h"
 #include "frm_main.h"
 #include "mscomm.h"
 #include "number_text.h"
@@ -105,6 +106,7 @@ std::string Shown(std::string_view bytes) {
 
 void Read_Version() {
   LinkError = 0;
+  frmCom.Ensure_Loaded();  // Its first use, unseen; the user's next look at it opens no port then.
   const Port_Choice port = Chosen_Port();
   if (const Port_Fault fault = Open_Chosen(port); fault != Port_Fault::None)
     return Tell_No_Answer(port.Text, fault);

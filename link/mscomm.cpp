@@ -15,6 +15,10 @@ void MSComm::Close() {
   backend->Close();
 }
 
+std::optional<Serial_Device> MSComm::Device(int number) const {
+  return backend ? backend->Device(number) : std::nullopt;
+}
+
 void MSComm::Clear_InBuffer() {
   if (open) backend->Drop();
 }

@@ -3,8 +3,11 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <span>
 #include <vector>
+
+#include "com_ports.h"
 
 namespace wrenbit {
 
@@ -24,6 +27,8 @@ class Serial_Backend {
   // Opens COM1 to COM20 by its number, with both lines set and nothing in the receive buffer. On a fault
   // nothing is left open.
   virtual Port_Fault Open(int number, bool rts, bool dtr) = 0;
+  // The device that COMn would open now; nothing when there is none. Opens nothing.
+  virtual std::optional<Serial_Device> Device(int number) = 0;
   virtual void Close() = 0;
   // True once the open port has gone away; it then gives no byte any more and takes none.
   virtual bool Lost() = 0;
@@ -49,6 +54,7 @@ class MSComm {
   Port_Fault Open();
   void Close();
   bool Lost() { return open && backend->Lost(); }
+  std::optional<Serial_Device> Device(int number) const;
 
   // On a closed port there is nothing to read, and what is sent is dropped.
   std::size_t InBufferCount() { return open ? backend->Waiting() : 0; }

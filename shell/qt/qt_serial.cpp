@@ -3,7 +3,6 @@
 #include <QAbstractEventDispatcher>
 #include <QFileInfo>
 
-#include "com_ports.h"
 #include "serial_handle.h"
 
 namespace wrenbit {
@@ -34,13 +33,17 @@ Qt_Serial::Qt_Serial(std::filesystem::path ports_folder) : folder(std::move(port
                    [this] { Lost(); });
 }
 
+std::optional<Serial_Device> Qt_Serial::Device(int number) {
+  return Device_Of_Com(number, folder, In_Com_Order(Serial_Devices_Present()));
+}
+
 Port_Fault Qt_Serial::Open(int number, bool rts, bool dtr) {
   Close();
-  const auto device = Device_Of_Com(number, folder, In_Com_Order(Serial_Devices_Present()));
+  const auto device = Device(number);
   if (!device) return Port_Fault::No_Such_Port;
 
   // Unless told otherwise the port runs at 9600 baud, 8N1, without flow control.
-  const QString path = QString::fromStdString(*device);
+  const QString path = QString::fromStdString(device->Path);
   port.setPortName(path);
   if (!port.open(QIODevice::ReadWrite)) return Fault_Of(port.error(), path);
   // Pseudo terminals have neither line and refuse; they work all the same.

@@ -15,6 +15,7 @@ class Qt_Serial : public Serial_Backend {
   explicit Qt_Serial(std::filesystem::path ports_folder);
 
   Port_Fault Open(int number, bool rts, bool dtr) override;
+  std::optional<Serial_Device> Device(int number) override;
   void Close() override;
   bool Lost() override;
   std::size_t Waiting() override;

@@ -5,12 +5,23 @@
 #include "number_text.h"
 #include "platform.h"
 #include "settings.h"
+#include "state.h"
 #include "window_events.h"
 
 namespace wrenbit {
 namespace {
 
 void Save_Line(const char* key, const CheckBox& box) { SaveSetting(key, box.Value() == 0 ? "0" : "1"); }
+
+// "/dev/ttyUSB0  FTDI  FT232R USB UART"
+std::string Device_Text(int entry) {
+  const std::optional<Serial_Device> device = MSComm1.Device(entry + 1);
+  if (!device) return "この番号のシリアルポートはありません。";
+  std::string text = device->Path;
+  for (const std::string& name : {device->Maker, device->Product})
+    if (!name.empty()) text += "  " + name;
+  return text;
+}
 
 // Selecting the stored port opens it, as a pick of the user's does.
 void Form_Load() {
@@ -30,6 +41,7 @@ void Form_Unload() {
 
 // The open only tries the port. The pick stays stored when it fails: the next transfer tries that port.
 void Cmb_com_Click() {
+  if (TransferRunning) return;  // Loaded unseen by a transfer, whose port it is.
   MSComm1.Close();
   SaveSetting(key::kComNo, std::to_string(frmCom.Cmb_com.ListIndex()));
   MSComm1.CommPort = frmCom.Cmb_com.ListIndex() + 1;
@@ -49,6 +61,7 @@ void Wire_frmCom() {
   frmCom.Form_Load = Form_Load;
   frmCom.Form_Unload = Form_Unload;
   frmCom.Cmb_com.Click = Cmb_com_Click;
+  frmCom.Cmb_com.Tip = Device_Text;
   frmCom.Cmd_Close.Click = Cmd_Close_Click;
   frmCom.CheckRTS.Click = [] {
     DoEvents();

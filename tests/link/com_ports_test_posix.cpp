@@ -22,10 +22,47 @@ TEST(Com_Ports, UsbAdaptersComeFirstInTheOrderOfTheirNumbers) {
                                              "/dev/ttyS1"}));
 }
 
+TEST(Com_Ports, TheSystemTellsWhatIsThereAndWhoMadeIt) {
+  const Temporary_Folder temporary;
+  const std::filesystem::path system = temporary.Path();
+  const auto put = [&](const std::string& file, const std::string& line) {
+    std::filesystem::create_directories((system / file).parent_path());
+    Put_Content(system / file, line + "\n");
+  };
+  const auto add = [&](const std::string& tty, const std::string& hardware) {
+    std::filesystem::create_directories(system / "class/tty" / tty);
+    if (hardware.empty()) return;
+    std::filesystem::create_directories(system / "devices" / hardware);
+    std::filesystem::create_symlink(system / "devices" / hardware, system / "class/tty" / tty / "device");
+  };
+  put("devices/usb1/1-1/idVendor", "0403");
+  put("devices/usb1/1-1/manufacturer", "Maker");
+  put("devices/usb1/1-1/product", "UART bridge");
+  put("devices/usb1/manufacturer", "Root hub");
+  put("devices/usb1/1-2/idVendor", "2341");
+  add("ttyUSB0", "usb1/1-1/1-1:1.0/ttyUSB0");
+  add("ttyACM0", "usb1/1-2/1-2:1.0");
+  add("ttyS0", "pnp0/serial0");
+  add("ttyS1", "pnp0/serial1");
+  put("class/tty/ttyS0/type", "4");
+  put("class/tty/ttyS1/type", "0");  // No chip behind it.
+  add("tty1", "");
+  std::vector<std::string> told;
+  for (const Serial_Device& device : In_Com_Order(Serial_Devices_Present(system)))
+    told.push_back(device.Path + (device.Usb ? " USB " : " ") + device.Maker + ":" + device.Product);
+  EXPECT_EQ(told, (std::vector<std::string>{"/dev/ttyUSB0 USB Maker:UART bridge",
+                                            "/dev/ttyACM0 USB :", "/dev/ttyS0 :"}));
+}
+
 struct Links : testing::Test {
   const Temporary_Folder temporary;
   const std::filesystem::path folder = temporary.Path();
-  const std::vector<Serial_Device> one_adapter{{"/dev/ttyUSB0", true}};
+  const std::vector<Serial_Device> one_adapter{{"/dev/ttyUSB0", true, "Maker", "Product"}};
+
+  std::optional<std::string> Path_Of_Com(int number) const {
+    const auto device = Device_Of_Com(number, folder, one_adapter);
+    return device ? std::optional(device->Path) : std::nullopt;
+  }
 
   void SetUp() override {
     std::filesystem::create_symlink("/dev/null", folder / "COM1");
@@ -35,21 +72,21 @@ struct Links : testing::Test {
 };
 
 TEST_F(Links, ALinkToADeviceWinsAndAnyOtherCountsAsAbsent) {
-  EXPECT_EQ(Device_Of_Com(1, folder, one_adapter), "/dev/null");
-  EXPECT_EQ(Device_Of_Com(2, folder, one_adapter), std::nullopt);
-  EXPECT_EQ(Device_Of_Com(3, folder, one_adapter), std::nullopt);
-  EXPECT_EQ(Device_Of_Com(1, folder / "none", one_adapter), "/dev/ttyUSB0");
-  for (const int outside : {-1, 0, 21}) EXPECT_EQ(Device_Of_Com(outside, folder, one_adapter), std::nullopt);
+  EXPECT_EQ(Path_Of_Com(1), "/dev/null");
+  EXPECT_EQ(Path_Of_Com(2), std::nullopt);
+  EXPECT_EQ(Path_Of_Com(3), std::nullopt);
+  EXPECT_EQ(Device_Of_Com(1, folder / "none", one_adapter)->Product, "Product");
+  for (const int outside : {-1, 0, 21}) EXPECT_EQ(Path_Of_Com(outside), std::nullopt);
 }
 
 TEST_F(Links, ALinkLeftBehindByAKilledBoardCountsAsAbsent) {
   const std::filesystem::path lock = folder / "COM1.lock";
   Put_Content(lock, "");
-  EXPECT_EQ(Device_Of_Com(1, folder, one_adapter), "/dev/ttyUSB0");
+  EXPECT_EQ(Path_Of_Com(1), "/dev/ttyUSB0");
 
   const int board = open(lock.c_str(), O_RDWR);
   ASSERT_EQ(flock(board, LOCK_EX), 0);
-  EXPECT_EQ(Device_Of_Com(1, folder, one_adapter), "/dev/null") << "the board lives";
+  EXPECT_EQ(Path_Of_Com(1), "/dev/null") << "the board lives";
   close(board);
 }
 

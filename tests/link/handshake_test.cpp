@@ -13,7 +13,10 @@ namespace {
 struct Handshake_Test : testing::Test {
   Test_Bench bench;
   Scripted_Board board;
-  void SetUp() override { bench.Board = &board; }
+  void SetUp() override {
+    bench.Board = &board;
+    TransferRunning = -1;  // As behind the command lock.
+  }
 
   void Answer(const std::string& text) { board.Replies = {{1, {}}, {1, Bytes(text.begin(), text.end())}}; }
   static const std::string& Panel(int number) { return frmMain.sbStatusBar.Panel(number); }

@@ -64,6 +64,11 @@ Port_Fault Test_Bench::Open(int number, bool rts, bool dtr) {
   return Port_Fault::None;
 }
 
+std::optional<Serial_Device> Test_Bench::Device(int number) {
+  const auto found = Devices.find(number);
+  return found == Devices.end() ? std::nullopt : std::optional(found->second);
+}
+
 std::size_t Test_Bench::Waiting() {
   return static_cast<std::size_t>(
       std::count_if(arriving.begin(), arriving.end(), [&](const Arrival& a) { return a.At <= now; }));

@@ -32,6 +32,7 @@ class Test_Bench : private Platform, private Settings_Store, private Serial_Back
   std::size_t Received = 0;               // Bytes that the program took.
   std::size_t Waits = 0;                  // How often it rested for an event.
   std::vector<std::string> Opened;        // "COM1 RTS DTR" for each open.
+  std::map<int, Serial_Device> Devices;   // By COM number.
   bool Is_Open() const { return open; }
   // A byte that lies in the receive buffer now.
   void Leave_In_Buffer(std::uint8_t byte) { arriving.push_back({now, byte}); }
@@ -66,6 +67,7 @@ class Test_Bench : private Platform, private Settings_Store, private Serial_Back
   void Save(const std::string&, const std::string& key, const std::string& value) override;
 
   Port_Fault Open(int number, bool rts, bool dtr) override;
+  std::optional<Serial_Device> Device(int number) override;
   void Close() override { open = false; }
   bool Lost() override { return Board && Board->Gone(); }
   std::size_t Waiting() override;

@@ -3,7 +3,10 @@
 
 #include <gtest/gtest.h>
 
+#include "hex_grid.h"
+#include "state.h"
 #include "test_bench.h"
+#include "transfer_commands.h"
 
 namespace wrenbit {
 namespace {
@@ -32,6 +35,33 @@ TEST(Port_Window, APickIsStoredAlsoWhenThePortCannotBeUsed) {
   EXPECT_EQ(bench.Stored["ComNo"], "19");
   EXPECT_FALSE(bench.Is_Open());
   EXPECT_TRUE(frmCom.Visible());
+}
+
+TEST(Port_Window, AfterATransferItLeavesThePortAloneUntilAPick) {
+  Test_Bench bench;
+  bench.Stored["ComNo"] = "2";
+  DeviceFamily = 2;
+  MemSize = 8;
+  Buffer_Init();
+  Cmd_READ_single_Click();
+  EXPECT_EQ(bench.Opened.size(), 1u);
+  frmCom.Show_Modal();
+  EXPECT_EQ(frmCom.Cmb_com.Text(), "3");
+  EXPECT_FALSE(bench.Is_Open());
+  frmCom.Cmb_com.Set_ListIndex(2);
+  EXPECT_TRUE(bench.Is_Open());
+  frmCom.Close();
+  EXPECT_FALSE(bench.Is_Open());
+  frmCom.Show_Modal();
+  EXPECT_TRUE(bench.Is_Open()) << "closed, it is loaded afresh";
+}
+
+TEST(Port_Window, EachEntryTellsItsDevice) {
+  Test_Bench bench;
+  bench.Devices = {{1, {"/dev/ttyUSB0", true, "Maker", "UART bridge"}}, {20, {"/dev/ttyS0"}}};
+  EXPECT_EQ(frmCom.Cmb_com.Tip(0), "/dev/ttyUSB0  Maker  UART bridge");
+  EXPECT_EQ(frmCom.Cmb_com.Tip(1), "この番号のシリアルポートはありません。");
+  EXPECT_EQ(frmCom.Cmb_com.Tip(19), "/dev/ttyS0");
 }
 
 TEST(Port_Window, ASecondClickWhileItLoadsLeavesAWindowThatCloses) {
