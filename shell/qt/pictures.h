@@ -1,7 +1,22 @@
+// The program's pictures, drawn in code so that they are sharp at every size and scale.
 #pragma once
+
 #include <QIcon>
 
 #include "picture.h"
+
+class QPainter;
+class QRectF;
+
 namespace wrenbit {
-inline QIcon Icon_Of(Picture) { return {}; }
+
+// Width by height. Every other picture is square.
+inline constexpr double kLogoAspect = 2;
+
+// Drawn afresh for each size and device pixel ratio, greyed while disabled. A null icon for None.
+QIcon Icon_Of(Picture picture);
+
+// Draws the picture as large as the rectangle allows, centred, in its own proportions. Nothing for None.
+void Paint_Picture(QPainter& painter, const QRectF& place, Picture picture);
+
 }  // namespace wrenbit

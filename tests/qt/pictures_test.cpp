@@ -1,0 +1,56 @@
+// What every picture owes to the button that shows it.
+#include "pictures.h"
+
+#include <gtest/gtest.h>
+
+#include <QImage>
+#include <QPainter>
+#include <vector>
+
+namespace wrenbit {
+namespace {
+
+class Pictures : public testing::TestWithParam<int> {};
+
+TEST_P(Pictures, FillTheirSquareAndNoMore) {
+  const int size = GetParam(), margin = size / 2;
+  for (const Picture picture :
+       {Picture::Open, Picture::Save, Picture::Port, Picture::Byte_Read, Picture::Byte_Write,
+        Picture::Block_Read, Picture::Block_Write, Picture::Program}) {
+    SCOPED_TRACE(static_cast<int>(picture));
+    QImage sheet(2 * size, 2 * size, QImage::Format_ARGB32);
+    sheet.fill(Qt::transparent);
+    QPainter painter(&sheet);
+    Paint_Picture(painter, QRectF(margin, margin, size, size), picture);
+    painter.end();
+    QRect painted;
+    for (int y = 0; y < sheet.height(); ++y)
+      for (int x = 0; x < sheet.width(); ++x)
+        if (qAlpha(sheet.pixel(x, y))) painted |= QRect(x, y, 1, 1);
+    EXPECT_TRUE(QRect(margin, margin, size, size).contains(painted));
+    EXPECT_GE(painted.width(), size * 3 / 4);
+    EXPECT_GE(painted.height(), size * 3 / 4);
+  }
+}
+
+// Their outlines alone tell them apart, whatever colours the eye sees.
+TEST_P(Pictures, OfTransfersDifferInOutline) {
+  std::vector<QImage> outlines;
+  for (const Picture picture :
+       {Picture::Byte_Read, Picture::Byte_Write, Picture::Block_Read, Picture::Block_Write}) {
+    const QPixmap drawn = Icon_Of(picture).pixmap(GetParam(), GetParam());
+    outlines.push_back(drawn.toImage().convertToFormat(QImage::Format_Alpha8));
+  }
+  for (std::size_t a = 0; a < outlines.size(); ++a)
+    for (std::size_t b = 0; b < a; ++b) EXPECT_NE(outlines[a], outlines[b]) << a << " and " << b;
+}
+
+INSTANTIATE_TEST_SUITE_P(Sizes, Pictures, testing::Values(16, 32, 64));
+
+TEST(Icons, AreDrawnForTheScreensResolution) {
+  EXPECT_TRUE(Icon_Of(Picture::None).isNull());
+  EXPECT_EQ(Icon_Of(Picture::Open).pixmap(QSize(32, 32), 2.0).size(), QSize(64, 64));
+}
+
+}  // namespace
+}  // namespace wrenbit
