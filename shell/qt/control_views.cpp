@@ -25,6 +25,18 @@ namespace {
 
 QString Text_Of(const std::string& text) { return QString::fromStdString(text); }
 
+// A box that is full may cut a character of two codes in half; half a character would come out as "?".
+std::string Whole_Characters(QString text) {
+  for (qsizetype at = 0; at < text.size(); ++at) {
+    const bool pair = text[at].isHighSurrogate() && at + 1 < text.size() && text[at + 1].isLowSurrogate();
+    if (pair)
+      ++at;
+    else if (text[at].isSurrogate())
+      text[at] = QChar::ReplacementCharacter;
+  }
+  return text.toStdString();
+}
+
 // Calls show now and after each change of the control.
 template <class Show>
 void Follow(Control& control, Show show) {
@@ -205,10 +217,10 @@ QWidget* Text_Box_View(TextBox& box, QWidget* holder) {
       "QLineEdit:focus { border-color: palette(highlight); }"
       "QLineEdit:disabled { background: palette(window); }"));
   QObject::connect(view, &QLineEdit::textEdited, view,
-                   [&box](const QString& text) { box.Edit(text.toStdString()); });
+                   [&box](const QString& text) { box.Edit(Whole_Characters(text)); });
   // A screen reader writes the text without editing it.
   QObject::connect(view, &QLineEdit::textChanged, view, [view, &box] {
-    if (view->text() != Text_Of(box.Text())) box.Edit(view->text().toStdString());
+    if (view->text() != Text_Of(box.Text())) box.Edit(Whole_Characters(view->text()));
   });
   QObject::connect(view, &QLineEdit::selectionChanged, view, [view, &box] {
     if (view->selectionLength() != box.SelLength()) box.Set_SelLength(view->selectionLength());
@@ -232,6 +244,9 @@ class Bare_Check_Box : public QCheckBox {
     initStyleOption(&option);
     option.rect = rect().adjusted(0, 0, -1, -1);
     style()->drawPrimitive(QStyle::PE_IndicatorCheckBox, &option, &painter, this);
+    if (!hasFocus()) return;
+    painter.setPen(palette().color(QPalette::Highlight));
+    painter.drawRect(option.rect.adjusted(0, 0, -1, -1));
   }
 };
 

@@ -92,6 +92,89 @@ TEST_F(Views, TypedTextReplacesWhatCodeSelected) {
   EXPECT_EQ(events, 3);
 }
 
+// "G" stands for what the filter drops, "a" for what it changes.
+TEST_F(Views, EveryCharacterPassesTheFilterUnlessItIsPasted) {
+  form.Box.KeyPress = [](std::int16_t& key) { key = key == 'G' || key == '\r' ? 0 : key == 'a' ? 'A' : key; };
+  auto& edit = View<QLineEdit>(form.Box);
+  const auto commit = [&](const char* text) {
+    QInputMethodEvent event;
+    event.setCommitString(QString::fromUtf8(text));
+    QCoreApplication::sendEvent(&edit, &event);
+  };
+  const auto press = [&](int key, Qt::KeyboardModifiers modifiers = {}) {
+    return [=, &edit] { QTest::keyClick(&edit, static_cast<Qt::Key>(key), modifiers); };
+  };
+  const struct {
+    const char* Name;
+    std::function<void()> Do;
+    const char* Text;
+    int Events;
+  } cases[] = {
+      {"typed", [&] { QTest::keyClicks(&edit, "aGb"); }, "xAb", 2},
+      {"Enter", press(Qt::Key_Return), "x", 0},
+      {"Backspace", press(Qt::Key_Backspace), "", 1},
+      {"Delete at the end", press(Qt::Key_Delete), "x", 0},
+      {"shortcut", press(Qt::Key_Backspace, Qt::ControlModifier), "", 1},
+      {"input method", [&] { commit("aGｱ"); }, "xAｱ", 1},
+      {"more than fits", [&] { commit("bcd"); }, "xbc", 1},
+      {"pasted", [&] { edit.insert("aG"); }, "xaG", 1},
+      {"written by a screen reader", [&] { edit.setText("aG"); }, "aG", 1},
+      {"typed over, the same again",
+       [&] {
+         edit.selectAll();
+         QTest::keyClicks(&edit, "x");
+       },
+       "x", 1},
+  };
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.Name);
+    form.Box.Set_Text("x");
+    edit.setFocus();
+    edit.setCursorPosition(1);
+    events = 0;
+    c.Do();
+    EXPECT_EQ(form.Box.Text(), c.Text);
+    EXPECT_EQ(edit.text(), c.Text);
+    EXPECT_EQ(events, c.Events);
+  }
+  // Half of a character that needs two codes is no question mark.
+  form.Box.Set_Text("xy");
+  edit.setCursorPosition(2);
+  commit("😀");
+  EXPECT_EQ(form.Box.Text(), "xy\uFFFD");
+}
+
+TEST_F(Views, TheClickThatEntersABoxSelectsItsText) {
+  form.Box.Set_Text("abc");
+  ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+  form.Wired.Set_Focus();
+  Clicked(form.Box);
+  EXPECT_EQ(View<QLineEdit>(form.Box).selectedText(), "abc");
+  Clicked(form.Box);
+  EXPECT_EQ(View<QLineEdit>(form.Box).selectedText(), "") << "the next one sets the cursor";
+}
+
+TEST_F(Views, EnterAndEscapePressTheButtonsMadeForThem) {
+  struct Question : Form {
+    Question() : Form(3000, 3000) { Yes.Default = No.Cancel = true; }
+    TextBox Box{*this, {0, 0, 900, 240}, 3, {}};
+    CommandButton Yes{*this, {0, 900, 900, 600}, "Yes"};
+    CommandButton No{*this, {900, 900, 900, 600}, "No"};
+  } question;
+  std::string pressed;
+  question.Yes.Click = [&] { pressed += 'Y'; };
+  question.No.Click = [&] { pressed += 'N'; };
+  Form_View box(question, Form_Kind::Dialog, window.get());
+  question.Show();
+  for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Escape, Qt::Key_Enter}) {
+    box.View_Of(question.Box)->setFocus();
+    QTest::keyClick(box.View_Of(question.Box), key);
+  }
+  box.View_Of(question.No)->setFocus();
+  QTest::keyClick(box.View_Of(question.No), Qt::Key_Return);
+  EXPECT_EQ(pressed, "YNYN");
+}
+
 TEST_F(Views, APickFiresAlsoForTheEntryThatIsSelected) {
   auto& list = View<QComboBox>(form.List);
   form.List.Set_ListIndex(1);
