@@ -28,6 +28,7 @@ class Program {
   void Run();
 
   Form_View& Main_Window() { return *main_window; }
+  Form_View& Port_Window() { return *com_window; }
 
  private:
   void Make_Windows();

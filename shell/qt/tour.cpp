@@ -1,6 +1,7 @@
 // wrenbit-tour: the real program with its real windows, used as a person would use it, and nobody there. It
 // needs a board on COM1 with the named chip in its socket, tells in plain lines what it does, leaves pictures
 // of the window, and ends with 0 when all came out as it should.
+#include <QCheckBox>
 #include <QComboBox>
 #include <QDialogButtonBox>
 #include <QDir>
@@ -21,6 +22,7 @@
 #include <stdexcept>
 
 #include "grid_view.h"
+#include "mscomm.h"
 #include "program.h"
 #include "state.h"
 #include "windows.h"
@@ -55,8 +57,10 @@ class Tour : public QObject {
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override {
-    if (auto* box = qobject_cast<QDialog*>(watched); box && event->type() == QEvent::Show)
+    if (event->type() != QEvent::Show) return false;
+    if (auto* box = qobject_cast<QDialog*>(watched))
       QTimer::singleShot(0, box, [this, box] { Answer(*box); });
+    if (watched == &program.Port_Window()) QTimer::singleShot(0, this, [this] { Visit_Port_Window(); });
     return false;
   }
 
@@ -67,12 +71,16 @@ class Tour : public QObject {
   }
 
   void Answer(QDialog& box);
+  void Visit_Port_Window();
+  void Select(int address);
+  void Edit_In_Each_Way();
   void Pick(const ComboBox& list, const QString& beginning);
   void Choose(const Menu& menu, const Menu& entry);
   void Transfer(const CommandButton& button);
   void Clear_Image();
   void With_File(const CommandButton& button, const QString& path);
-  void Take_Picture(const QString& name);
+  void Take_Picture(const QString& name) { Take_Picture(name, program.Main_Window()); }
+  void Take_Picture(const QString& name, QWidget& window);
   void Require_Calm() const { Require(surprise.empty(), surprise); }
 
   Program& program;
@@ -146,9 +154,59 @@ void Tour::With_File(const CommandButton& button, const QString& path) {
   Say(button.Caption() + ": " + frmMain.sbStatusBar.Panel(1) + "  " + HexFilePath);
 }
 
-void Tour::Take_Picture(const QString& name) {
+void Tour::Take_Picture(const QString& name, QWidget& window) {
   const QString file = pictures.filePath(QStringLiteral("%1-%2.png").arg(++picture).arg(name));
-  Require(program.Main_Window().grab().save(file), "a picture cannot be written: " + file.toStdString());
+  Require(window.grab().save(file), "a picture cannot be written: " + file.toStdString());
+}
+
+// Runs while the window is up. What goes wrong must not leave the event loop, which waits for it.
+void Tour::Visit_Port_Window() try {
+  Form_View& window = program.Port_Window();
+  Require(MSComm1.PortOpen(), "the port window did not open the port");
+  Take_Picture("port", window);
+  const auto& list = dynamic_cast<QComboBox&>(*window.View_Of(frmCom.Cmb_com));
+  Say("Port " + list.currentText().toStdString() + ": " + frmCom.Cmb_com.Tip(list.currentIndex()));
+  QTest::mouseClick(window.View_Of(frmCom.Cmd_Close), Qt::LeftButton);
+} catch (const std::exception& error) {
+  surprise = error.what();
+  frmCom.Unload();
+}
+
+void Tour::Select(int address) {
+  auto& grid = Seen<Grid_View>(frmMain.MSFGrid1);
+  QTest::mouseClick(grid.viewport(), Qt::LeftButton, {},
+                    grid.Cell_Rect(address / 16 + 1, address % 16 + 1).center());
+  Require(frmMain.sbStatusBar.Panel(3) == "アドレス:" + std::to_string(address),
+          "the click selected " + frmMain.sbStatusBar.Panel(3));
+}
+
+// One byte each: as hex, as decimal, as a character, by a bit.
+void Tour::Edit_In_Each_Way() {
+  const auto type = [this](const TextBox& box, const char* keys) {
+    auto& view = Seen<QLineEdit>(box);
+    view.setFocus();
+    view.selectAll();
+    QTest::keyClicks(&view, keys);
+  };
+  const struct {
+    const char* Way;
+    std::function<void()> Do;
+    int Byte;
+  } edits[] = {
+      {"hex", [&] { type(frmMain.Text_modify_hex, "a5"); }, 0xA5},
+      {"decimal", [&] { type(frmMain.Text_modify_dec, "90"); }, 90},
+      {"character", [&] { type(frmMain.Text_modify_asc, "W"); }, 'W'},
+      {"bits", [&] { QTest::keyClick(&Seen<QCheckBox>(frmMain.ChkBin[7]), Qt::Key_Space); },
+       ImageBuffer[8] ^ 0x80},
+  };
+  for (int address = 5; const auto& edit : edits) {
+    Select(address);
+    edit.Do();
+    Require(ImageBuffer[static_cast<std::size_t>(address)] == edit.Byte,
+            std::string("the byte edited as ") + edit.Way + " is another");
+    Say("Byte " + std::to_string(address) + " edited as " + edit.Way + ": " + frmMain.MSFGrid1.Text());
+    ++address;
+  }
 }
 
 void Tour::Walk() {
@@ -160,16 +218,15 @@ void Tour::Walk() {
   Say("Device " + frmMain.Combo_device.Text() + ", block of " + frmMain.CmbSize.Text() + " bytes");
   Require(frmMain.CmbSize.Text() == std::to_string(ImageBuffer.size()), "the block is not the whole chip");
   Take_Picture("start");
+  QTest::mouseClick(&Seen<QPushButton>(frmMain.Cmd_Port), Qt::LeftButton);
+  Require_Calm();
 
   Transfer(frmMain.Cmd_READ_all);
   Take_Picture("read");
 
-  auto& grid = Seen<Grid_View>(frmMain.MSFGrid1);
-  QTest::mouseClick(grid.viewport(), Qt::LeftButton, {}, grid.Cell_Rect(1, 6).center());
-  Require(frmMain.sbStatusBar.Panel(3) == "アドレス:5", "the click selected " + frmMain.sbStatusBar.Panel(3));
-  ImageBuffer[5] = static_cast<std::uint8_t>(~ImageBuffer[5]);
+  Edit_In_Each_Way();
   const auto changed = ImageBuffer;
-  Say("Changed the byte at address 5");
+  Take_Picture("edited");
 
   Transfer(frmMain.Cmd_WRITE_all);
   Clear_Image();
