@@ -1,4 +1,5 @@
-// The small seams to the platform: who the program is, the yield, the clock, the pause and the message box.
+// The small seams to the platform: who the program is, the yield, the clock, the pause, the message box and
+// the help.
 #pragma once
 
 #include <string>
@@ -15,6 +16,7 @@ struct App_Facts {
       "TOLVEX Programmerを使用し、シリアルＥＥＰＲＯＭにプログラミングするためのソフトです。";
   std::string Comments;
   std::string Path;           // Folder of the program's file, no closing separator except at the root.
+  std::string HelpFile;       // Whole path of the help file; empty when the program has none.
   bool PrevInstance = false;  // Another instance of this user's runs already.
 };
 inline App_Facts App;
@@ -26,7 +28,7 @@ std::string App_Version();
 // "WRENBIT"
 std::string App_Title_Upper();
 
-enum class Message_Icon { Critical, Question, Information, Warning };
+enum class Message_Icon { None, Critical, Question, Information, Warning };
 enum class Message_Buttons { Ok, OkCancel };
 
 class Platform {
@@ -46,6 +48,9 @@ class Platform {
                       const std::string& title) = 0;
   // Hands a web address to the user's browser. A failure passes unseen.
   virtual void Open_Address(const std::string& address) = 0;
+  // Shows the help file at its contents page, in a window of its own that may stay open. Empty, or the
+  // description of the error for the user.
+  virtual std::string Show_Help(const std::string& path) = 0;
   // Ends the program when the handler in hand has returned.
   virtual void End() = 0;
 };

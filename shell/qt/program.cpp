@@ -61,6 +61,7 @@ Program::Program(int& argc, char** argv)
     QApplication::installTranslator(translator);
 
   App.Path = QApplication::applicationDirPath().toStdString();
+  App.HelpFile = App.Path + "/WRENBIT.HLP";
   QDir().mkpath(Config_Folder());
   App.PrevInstance = Another_Lives(instance);
 

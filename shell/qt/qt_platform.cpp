@@ -13,6 +13,8 @@ namespace {
 
 QMessageBox::Icon Icon_Of(Message_Icon icon) {
   switch (icon) {
+    case Message_Icon::None:
+      return QMessageBox::NoIcon;
     case Message_Icon::Critical:
       return QMessageBox::Critical;
     case Message_Icon::Question:
@@ -54,6 +56,11 @@ bool Qt_Platform::MsgBox(const std::string& text, Message_Icon icon, Message_But
 
 void Qt_Platform::Open_Address(const std::string& address) {
   QDesktopServices::openUrl(QUrl(QString::fromStdString(address)));
+}
+
+std::string Qt_Platform::Show_Help(const std::string& path) {
+  if (!help) help = std::make_unique<Help_Window>();
+  return help->Show_Contents(path);
 }
 
 void Qt_Platform::End() {

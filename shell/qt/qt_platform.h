@@ -1,8 +1,10 @@
-// The platform's seams on Qt.
+// The platform's seams on Qt. Must go before the application object, for it owns a window.
 #pragma once
 
 #include <QElapsedTimer>
+#include <memory>
 
+#include "help_window.h"
 #include "platform.h"
 
 namespace wrenbit {
@@ -17,6 +19,7 @@ class Qt_Platform : public Platform {
   bool MsgBox(const std::string& text, Message_Icon icon, Message_Buttons buttons,
               const std::string& title) override;
   void Open_Address(const std::string& address) override;
+  std::string Show_Help(const std::string& path) override;
   void End() override;
 
   // Told to end, perhaps before any event loop was there to be ended.
@@ -25,6 +28,7 @@ class Qt_Platform : public Platform {
  private:
   QElapsedTimer clock;
   bool ended = false;
+  std::unique_ptr<Help_Window> help;  // Made when it is first asked for.
 };
 
 }  // namespace wrenbit

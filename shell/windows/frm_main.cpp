@@ -48,6 +48,16 @@ void Form_Unload() {
   ThePlatform->End();
 }
 
+void mnuHelpContents_Click() {
+  if (App.HelpFile.empty()) {
+    MsgBox("ﾍﾙﾌﾟの目次を表示できません。 このﾌﾟﾛｼﾞｪｸﾄに関連付けられたﾍﾙﾌﾟが存在しません。",
+           Message_Icon::Information, Message_Buttons::Ok, frmMain.Caption());
+    return;
+  }
+  const std::string error = ThePlatform->Show_Help(App.HelpFile);
+  if (!error.empty()) MsgBox(error, Message_Icon::None, Message_Buttons::Ok, App.Title);
+}
+
 void Show_frmCom() { frmCom.Show_Modal(); }
 
 }  // namespace
@@ -79,6 +89,7 @@ void Wire_frmMain() {
   frmMain.mnuFileExit.Click = Main_Window_Close;
   frmMain.mnuBufferClear.Click = mnuBufferClear_Click;
   frmMain.mnuToolsOptions.Click = Show_frmCom;
+  frmMain.mnuHelpContents.Click = mnuHelpContents_Click;
   frmMain.mnuHelpAbout.Click = [] { frmAbout.Show_Modal(); };
 }
 

@@ -42,9 +42,16 @@ void Test_Bench::Await_Event(double seconds) {
   DoEvents();
 }
 
-bool Test_Bench::MsgBox(const std::string& text, Message_Icon, Message_Buttons, const std::string& title) {
+bool Test_Bench::MsgBox(const std::string& text, Message_Icon icon, Message_Buttons,
+                        const std::string& title) {
+  Box_Icon = icon;
   Boxes.push_back(title + " | " + text);
   return Box_Answer;
+}
+
+std::string Test_Bench::Show_Help(const std::string& path) {
+  Helps.push_back(path);
+  return Help_Answer;
 }
 
 std::string Test_Bench::Get(const std::string&, const std::string& key, const std::string& otherwise) {

@@ -41,9 +41,12 @@ class Test_Bench : private Platform, private Settings_Store, private Serial_Back
   // --- The platform.
   double Now() const { return now; }
   void Pass(double seconds) { now += seconds; }
-  std::function<void()> On_Yield;  // Runs inside every yield.
-  std::vector<std::string> Boxes;  // Title, " | ", text of each message box.
+  std::function<void()> On_Yield;              // Runs inside every yield.
+  std::vector<std::string> Boxes;              // Title, " | ", text of each message box.
+  Message_Icon Box_Icon = Message_Icon::None;  // Of the last one.
   bool Box_Answer = true;
+  std::vector<std::string> Helps;  // The help files that were shown.
+  std::string Help_Answer;         // What showing one answers.
   bool Ended = false;
 
   std::map<std::string, std::string> Stored;  // The settings, by key.
@@ -59,8 +62,9 @@ class Test_Bench : private Platform, private Settings_Store, private Serial_Back
   void Await_Event(double seconds) override;
   double Timer() override { return now; }
   void Sleep(int milliseconds) override { now += milliseconds / 1000.0; }
-  bool MsgBox(const std::string& text, Message_Icon, Message_Buttons, const std::string& title) override;
+  bool MsgBox(const std::string& text, Message_Icon icon, Message_Buttons, const std::string& title) override;
   void Open_Address(const std::string&) override {}
+  std::string Show_Help(const std::string& path) override;
   void End() override { Ended = true; }
 
   std::string Get(const std::string&, const std::string& key, const std::string& otherwise) override;

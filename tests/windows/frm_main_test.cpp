@@ -56,8 +56,11 @@ TEST_F(Main_Window, EachCommandHasItsOwnEffect) {
       {&frmMain.mnuToolsOptions, "COMポート設定(&O)...", &frmMain.mnuToolsOptions.Click, port_window},
       {&frmMain.mnuHelpAbout, "ﾊﾞｰｼﾞｮﾝ情報(&A)", &frmMain.mnuHelpAbout.Click,
        [] { return frmAbout.Visible(); }},
+      {&frmMain.mnuHelpContents, "目次(&C)", &frmMain.mnuHelpContents.Click,
+       [this] { return bench.Helps == std::vector<std::string>{"/there/WRENBIT.HLP"}; }},
       {&frmMain.mnuFileExit, "終了(&X)", &frmMain.mnuFileExit.Click, [this] { return bench.Ended; }},
   };
+  App.HelpFile = "/there/WRENBIT.HLP";
   for (const auto& command : commands) {
     SCOPED_TRACE(command.Caption);
     Dialog.clear();
@@ -70,6 +73,28 @@ TEST_F(Main_Window, EachCommandHasItsOwnEffect) {
     EXPECT_FALSE(command.Happened());
     (*command.Event)();
     EXPECT_TRUE(command.Happened());
+  }
+}
+
+TEST_F(Main_Window, HelpThatCannotShowIsTold) {
+  frmMain.Set_Caption("Caption");
+  bench.Help_Answer = "the reason";
+  const struct {
+    const char* HelpFile;
+    Message_Icon Icon;
+    std::string Box;
+  } cases[] = {
+      {"", Message_Icon::Information,
+       "Caption | ﾍﾙﾌﾟの目次を表示できません。 このﾌﾟﾛｼﾞｪｸﾄに関連付けられたﾍﾙﾌﾟが存在しません。"},
+      {"/there/WRENBIT.HLP", Message_Icon::None, "wrenbit | the reason"},
+  };
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.Box);
+    App.HelpFile = c.HelpFile;
+    bench.Boxes.clear();
+    frmMain.mnuHelpContents.Click();
+    EXPECT_EQ(bench.Boxes, std::vector<std::string>{c.Box});
+    EXPECT_EQ(bench.Box_Icon, c.Icon);
   }
 }
 
