@@ -5,6 +5,7 @@
 #include <QScrollBar>
 #include <algorithm>
 
+#include "grid_accessible.h"
 #include "look.h"
 
 namespace wrenbit {
@@ -42,13 +43,15 @@ void Grid_View::Set_Scroll_Range() {
 
 void Grid_View::Follow() {
   Set_Scroll_Range();
-  if (grid.Row() != row_in_sight) {
-    row_in_sight = grid.Row();
-    const int line = row_in_sight - 1;
-    QScrollBar* bar = verticalScrollBar();
-    bar->setValue(std::clamp(bar->value(), line - Rows_In_Sight() + 1, std::max(line, 0)));
-  }
+  if (grid.Row() != row_in_sight) Show_Current_Row();
   viewport()->update();
+}
+
+void Grid_View::Show_Current_Row() {
+  row_in_sight = grid.Row();
+  const int line = row_in_sight - 1;
+  QScrollBar* bar = verticalScrollBar();
+  bar->setValue(std::clamp(bar->value(), line - Rows_In_Sight() + 1, std::max(line, 0)));
 }
 
 int Grid_View::Column_Left(int col) const {
@@ -106,16 +109,23 @@ void Grid_View::resizeEvent(QResizeEvent*) { Set_Scroll_Range(); }
 
 void Grid_View::scrollContentsBy(int, int) { viewport()->update(); }
 
-void Grid_View::mousePressEvent(QMouseEvent* event) {
-  if (event->button() != Qt::LeftButton) return;
-  const QPoint point = event->position().toPoint();
-  const int row = First_Row() + point.y() / kRowHeight - 1;
-  int col = 1;
-  while (col < grid.Cols() && !Cell_Rect(0, col).contains(point.x(), 0)) ++col;
-  // A fixed cell cannot become the current one.
-  if (point.y() < kRowHeight || col == grid.Cols() || row >= grid.Rows()) return;
+Grid_Cell Grid_View::Cell_At(const QPoint& point) const {
+  const int line = point.y() / kRowHeight;
+  Grid_Cell cell{line == 0 ? 0 : First_Row() + line - 1, 0};
+  while (cell.Col < grid.Cols() && !Cell_Rect(0, cell.Col).contains(point.x(), 0)) ++cell.Col;
+  return cell;
+}
+
+void Grid_View::Make_Current(int row, int col) {
+  if (row < 1 || row >= grid.Rows() || col < 1 || col >= grid.Cols()) return;
   grid.Set_Row(row);
   grid.Set_Col(col);
+}
+
+void Grid_View::mousePressEvent(QMouseEvent* event) {
+  if (event->button() != Qt::LeftButton) return;
+  const auto [row, col] = Cell_At(event->position().toPoint());
+  Make_Current(row, col);
 }
 
 void Grid_View::mouseReleaseEvent(QMouseEvent* event) {
@@ -123,10 +133,22 @@ void Grid_View::mouseReleaseEvent(QMouseEvent* event) {
     Fire(grid.Click);
 }
 
+void Grid_View::Go_To_Cell(int row, int col) {
+  setFocus();
+  Make_Current(row, col);
+  Show_Current_Row();
+  Tell_Current_Cell(*this);
+}
+
+void Grid_View::Click_Cell(int row, int col) {
+  Go_To_Cell(row, col);
+  Fire(grid.Click);
+}
+
 void Grid_View::Move_To(int row, int col) {
-  if (grid.Rows() < 2 || grid.Cols() < 2) return;
-  grid.Set_Row(std::clamp(row, 1, grid.Rows() - 1));
-  grid.Set_Col(std::clamp(col, 1, grid.Cols() - 1));
+  Make_Current(std::clamp(row, 1, std::max(grid.Rows() - 1, 1)),
+               std::clamp(col, 1, std::max(grid.Cols() - 1, 1)));
+  Tell_Current_Cell(*this);
 }
 
 void Grid_View::keyPressEvent(QKeyEvent* event) {
@@ -150,12 +172,21 @@ void Grid_View::keyPressEvent(QKeyEvent* event) {
       return Move_To(whole_grid ? 1 : row, 1);
     case Qt::Key_End:
       return Move_To(whole_grid ? grid.Rows() - 1 : row, grid.Cols() - 1);
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+    case Qt::Key_Space:
+      return Fire(grid.Click);
     default:
       event->ignore();
   }
 }
 
-void Grid_View::focusInEvent(QFocusEvent*) { viewport()->update(); }
+void Grid_View::focusInEvent(QFocusEvent*) {
+  viewport()->update();
+  // Afterwards, since Qt says behind this that the grid has the focus.
+  QMetaObject::invokeMethod(
+      this, [this] { Tell_Current_Cell(*this); }, Qt::QueuedConnection);
+}
 
 void Grid_View::focusOutEvent(QFocusEvent*) { viewport()->update(); }
 

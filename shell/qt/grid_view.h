@@ -8,6 +8,11 @@
 
 namespace wrenbit {
 
+struct Grid_Cell {
+  int Row;
+  int Col;
+};
+
 // The header row and the address column stand still. The last column takes what width is left, a few pixels
 // less than its own when the scroll bar needs them.
 class Grid_View : public QAbstractScrollArea {
@@ -19,6 +24,14 @@ class Grid_View : public QAbstractScrollArea {
 
   // Where a cell is painted, in the viewport. Empty when it is not in sight.
   QRect Cell_Rect(int row, int col) const;
+  // The cell at a point of the viewport. Row or column lies outside the grid when there is none.
+  Grid_Cell Cell_At(const QPoint& point) const;
+  const FlexGrid& Grid() const { return grid; }
+
+  // Makes a cell current and brings it into sight. A fixed cell cannot become the current one.
+  void Go_To_Cell(int row, int col);
+  // What a click with the mouse does.
+  void Click_Cell(int row, int col);
 
  protected:
   void paintEvent(QPaintEvent* event) override;
@@ -35,7 +48,9 @@ class Grid_View : public QAbstractScrollArea {
   int First_Row() const;
   int Column_Left(int col) const;
   void Set_Scroll_Range();
-  void Move_To(int row, int col);
+  void Show_Current_Row();
+  void Make_Current(int row, int col);  // Unless it is a fixed cell or none.
+  void Move_To(int row, int col);       // Or as near as the grid reaches.
 
   FlexGrid& grid;
   int row_in_sight = -1;  // The current cell's row at the last look.

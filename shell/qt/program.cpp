@@ -6,6 +6,7 @@
 #include <QSysInfo>
 #include <QTranslator>
 
+#include "accessibility.h"
 #include "end_signals.h"
 #include "file_dialog.h"
 #include "look.h"
@@ -48,6 +49,7 @@ Program::Program(int& argc, char** argv)
       instance(Config_Folder() + QStringLiteral("/instance.lock")),
       settings(Config_Folder() + QStringLiteral("/settings.ini")),
       serial((Config_Folder() + QStringLiteral("/ports")).toStdString()) {
+  Install_Accessibility();
   QApplication::setApplicationName(QString::fromStdString(App.Title));
   // The only style that looks, and fits, alike on every desktop.
   QApplication::setStyle(QStringLiteral("fusion"));
