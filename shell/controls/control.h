@@ -61,6 +61,8 @@ class Control {
   const Font Lettering;
   // What a screen reader calls the control. Empty where the caption says it.
   std::string AccessibleName;
+  // What it tells besides. Empty where the name says enough.
+  std::string AccessibleDescription;
 
   // Called after any property has changed. Set by the view, and by nobody else.
   std::function<void()> Changed;

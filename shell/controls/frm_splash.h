@@ -8,7 +8,10 @@ namespace wrenbit {
 struct Frm_Splash : Form {
   static constexpr Font kDisplay{.Face = Typeface::Display, .Points = 32.25};
 
-  Frm_Splash() : Form(6525, 3180) {}
+  Frm_Splash() : Form(6525, 3180) {
+    AccessibleName = Frame1.AccessibleName = "起動画面";
+    imgLogo.AccessibleName = "ロゴ";
+  }
 
   Frame Frame1{*this, {120, 45, 6285, 3015}, ""};
   PictureBox imgLogo{Frame1, {240, 495, 1890, 1890}, Picture::Logo};

@@ -93,6 +93,8 @@ class StatusBar : public Control {
   void Reset() override;
 
   const std::array<int, kPanels> Widths;
+  // What a screen reader calls the panels: what each one tells of.
+  std::array<std::string, kPanels> PanelNames;
 
  private:
   std::array<std::string, kPanels> texts;

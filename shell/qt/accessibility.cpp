@@ -1,6 +1,8 @@
 #include "accessibility.h"
 
 #include <QAccessibleWidget>
+#include <QLabel>
+#include <algorithm>
 
 #include "combo_accessible.h"
 #include "grid_accessible.h"
@@ -10,6 +12,37 @@ namespace {
 
 constexpr const char* kRole = "wrenbit_role";
 
+// A label that lies behind another view is not to be read before it is to be seen.
+class Label_Accessible : public QAccessibleWidget {
+ public:
+  explicit Label_Accessible(QLabel& shown)
+      : QAccessibleWidget(&shown, QAccessible::StaticText), label(shown) {}
+
+  QString text(QAccessible::Text what) const override {
+    const QString own = QAccessibleWidget::text(what);
+    return what == QAccessible::Name && own.isEmpty() ? label.text() : own;
+  }
+  QAccessible::State state() const override {
+    QAccessible::State state = QAccessibleWidget::state();
+    state.readOnly = true;
+    if (Covered()) state.invisible = true;
+    return state;
+  }
+
+ private:
+  // Siblings lie the higher the later they come.
+  bool Covered() const {
+    const QObjectList siblings = label.parent() ? label.parent()->children() : QObjectList();
+    return std::any_of(siblings.begin() + siblings.indexOf(&label) + 1, siblings.end(),
+                       [this](QObject* other) {
+                         const auto* above = qobject_cast<QWidget*>(other);
+                         return above && above->isVisible() && above->geometry().contains(label.geometry());
+                       });
+  }
+
+  QLabel& label;
+};
+
 // Null leaves it to Qt.
 QAccessibleInterface* Interface_Of(const QString&, QObject* object) {
   if (auto* grid = dynamic_cast<Grid_View*>(object)) return new Grid_Accessible(*grid);
@@ -18,6 +51,8 @@ QAccessibleInterface* Interface_Of(const QString&, QObject* object) {
   if (auto* entries = qobject_cast<QListView*>(object))
     if (QComboBox* combo = Combo_Of(*entries); combo && !combo->isEditable())
       return new Entries_Accessible(*entries, *combo);
+  if (auto* label = qobject_cast<QLabel*>(object); label && label->textFormat() == Qt::PlainText)
+    return new Label_Accessible(*label);
   auto* widget = qobject_cast<QWidget*>(object);
   const QVariant role = widget ? widget->property(kRole) : QVariant();
   return role.isValid() ? new QAccessibleWidget(widget, static_cast<QAccessible::Role>(role.toInt()))

@@ -15,6 +15,7 @@
 #include <QStylePainter>
 #include <utility>
 
+#include "accessibility.h"
 #include "grid_view.h"
 #include "lists_and_boxes.h"
 #include "look.h"
@@ -50,6 +51,7 @@ Widget* Placed(Widget* view, Control& control, Show show) {
   view->setGeometry(Pixels(control.At));
   view->setFont(Font_For(control.Lettering));
   view->setAccessibleName(Text_Of(control.AccessibleName));
+  view->setAccessibleDescription(Text_Of(control.AccessibleDescription));
   Follow(control, [view, &control, show] {
     view->setEnabled(control.Enabled());
     view->setVisible(control.Visible());
@@ -119,6 +121,7 @@ QWidget* Line_View(Line& line, QWidget* holder) {
   auto* view = new QWidget(holder);
   view->setPalette(QColor(line.Colour));
   view->setAutoFillBackground(true);
+  Set_Role(view, QAccessible::Separator);
   return Placed(view, line, [] {});
 }
 
@@ -300,11 +303,13 @@ constexpr int kWidths[] = {100, 88, 76};  // Percent.
 
 QWidget* Status_Bar_View(StatusBar& bar, QWidget* holder) {
   auto* view = new QWidget(holder);
+  Set_Role(view, QAccessible::StatusBar);
   std::array<QLabel*, StatusBar::kPanels> panels{};
   int left = 0;
   for (std::size_t i = 0; i < panels.size(); ++i) {
     panels[i] = new QLabel(view);
     panels[i]->setTextFormat(Qt::PlainText);
+    panels[i]->setAccessibleDescription(Text_Of(bar.PanelNames[i]));
     panels[i]->setFrameStyle(static_cast<int>(QFrame::Panel) | static_cast<int>(QFrame::Sunken));
     panels[i]->setGeometry(Pixels(Place{left, 0, bar.Widths[i], bar.At.Height}).adjusted(1, 1, -1, -1));
     left += bar.Widths[i];
@@ -323,17 +328,29 @@ QWidget* Status_Bar_View(StatusBar& bar, QWidget* holder) {
       const QString fitting = QFontMetrics(letters).elidedText(whole, Qt::ElideRight, room);
       panel->setText(fitting);
       panel->setToolTip(fitting == whole ? QString() : whole);
-      panel->setAccessibleName(whole);
+      // Said aloud when it changes, and only then. An empty panel is called by what it tells of.
+      const QString said = whole.isEmpty() ? panel->accessibleDescription() : whole;
+      if (panel->accessibleName() != said) panel->setAccessibleName(said);
     }
   });
 }
 
 QWidget* Menu_View(Menu& menu, QWidget* holder) {
   QMenu* drop_down = qobject_cast<QMenuBar*>(holder) ? new QMenu(holder) : nullptr;
+  if (drop_down) {
+    holder->setAccessibleName(QStringLiteral("メニュー"));
+    drop_down->setAccessibleName(Text_Of(menu.Caption()).remove('&'));
+  }
   QAction* action = drop_down ? drop_down->menuAction() : new QAction(holder);
   action->setSeparator(menu.Separator());
   holder->addAction(action);
-  QObject::connect(action, &QAction::triggered, action, [&menu] { Fire(menu.Click); });
+  // Later, so that a screen reader's choice of an entry need not wait for the end of the box that comes up.
+  QObject::connect(
+      action, &QAction::triggered, action,
+      [action, &menu] {
+        if (action->isEnabled()) Fire(menu.Click);
+      },
+      Qt::QueuedConnection);
   Follow(menu, [action, &menu, offered = drop_down || menu.Click] {
     if (!menu.Separator()) action->setText(Text_Of(menu.Caption()));  // The line would show its dash.
     action->setEnabled(offered && menu.Enabled());

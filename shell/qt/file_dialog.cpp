@@ -19,6 +19,13 @@ QStringList Name_Filters(const std::string& filter) {
   return filters;
 }
 
+// The lists of Qt's own dialog, after the labels beside them.
+void Name_Lists(QFileDialog& box) {
+  for (const auto& [list, label] :
+       {std::pair{"lookInCombo", QFileDialog::LookIn}, std::pair{"fileTypeCombo", QFileDialog::FileType}})
+    if (auto* view = box.findChild<QWidget*>(list)) view->setAccessibleName(box.labelText(label));
+}
+
 bool Ask(CommonDialog& dialog, QFileDialog::AcceptMode mode, QWidget* owner) {
   QFileDialog box(owner, QString::fromStdString(dialog.DialogTitle),
                   dialog.InitDir.empty() ? QDir::homePath() : QString::fromStdString(dialog.InitDir));
@@ -32,6 +39,7 @@ bool Ask(CommonDialog& dialog, QFileDialog::AcceptMode mode, QWidget* owner) {
   const QString proposed = QString::fromStdString(dialog.FileName);
   // A pattern in place of a name says no more than the filter does.
   if (!proposed.isEmpty() && !proposed.contains('*')) box.selectFile(QFileInfo(proposed).fileName());
+  Name_Lists(box);
   if (box.exec() != QDialog::Accepted || box.selectedFiles().isEmpty()) return false;
 
   const QFileInfo chosen(box.selectedFiles().first());

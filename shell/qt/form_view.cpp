@@ -32,6 +32,7 @@ bool Is_Menu(const Control* control) { return dynamic_cast<const Menu*>(control)
 
 Form_View::Form_View(Form& shown, Form_Kind what, QWidget* owner)
     : QMainWindow(owner, Flags(what)), form(shown), kind(what) {
+  setAccessibleName(QString::fromStdString(form.AccessibleName));
   layout()->setSizeConstraint(QLayout::SetFixedSize);
   if (kind == Form_Kind::Dialog) setWindowModality(Qt::ApplicationModal);
   Make_Views();

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QDesktopServices>
+#include <QLabel>
 #include <QMessageBox>
 #include <QThread>
 #include <QTimer>
@@ -25,6 +26,20 @@ QMessageBox::Icon Icon_Of(Message_Icon icon) {
       break;
   }
   return QMessageBox::Information;
+}
+
+QString Name_Of(Message_Icon icon) {
+  switch (icon) {
+    case Message_Icon::Critical:
+      return QStringLiteral("エラー");
+    case Message_Icon::Question:
+      return QStringLiteral("質問");
+    case Message_Icon::Warning:
+      return QStringLiteral("警告");
+    case Message_Icon::Information:
+      break;
+  }
+  return QStringLiteral("情報");
 }
 
 }  // namespace
@@ -51,6 +66,8 @@ bool Qt_Platform::MsgBox(const std::string& text, Message_Icon icon, Message_But
                   buttons == Message_Buttons::Ok ? QMessageBox::Ok : QMessageBox::Ok | QMessageBox::Cancel,
                   QApplication::activeWindow());
   box.setTextFormat(Qt::PlainText);
+  if (auto* picture = box.findChild<QLabel*>("qt_msgboxex_icon_label"))
+    picture->setAccessibleName(Name_Of(icon));
   return box.exec() == QMessageBox::Ok;
 }
 

@@ -123,6 +123,7 @@ void Tour::Choose(const Menu& menu, const Menu& entry) {
   for (QAction* action : drop_down.actions()) {
     if (action->text().toStdString() != entry.Caption()) continue;
     QTest::mouseClick(&drop_down, Qt::LeftButton, {}, drop_down.actionGeometry(action).center());
+    QCoreApplication::processEvents();
     return;
   }
   Require(false, "the menu has no entry " + entry.Caption());
