@@ -59,7 +59,7 @@ class Entry_Accessible : public QAccessibleInterface, public QAccessibleActionIn
     state.offscreen = !down || rect().isEmpty();
     state.focusable = state.selectable = true;
     state.selected = number == (down ? view.currentIndex().row() : combo.currentIndex());
-    state.focused = down && state.selected;
+    state.focused = state.selected && (down || combo.hasFocus());
     return state;
   }
 
@@ -88,7 +88,16 @@ QComboBox* Combo_Of(const QListView& entries) {
 }
 
 Combo_Accessible::Combo_Accessible(QComboBox& shown)
-    : QAccessibleWidget(&shown, QAccessible::ComboBox), combo(shown) {}
+    : QAccessibleWidget(&shown, QAccessible::ComboBox), combo(shown) {
+  // Arrow keys change the entry without the list coming down. A screen reader speaks of it only when it hears
+  // that the keyboard has moved.
+  QObject::connect(&combo, &QComboBox::currentIndexChanged, &combo, [&shown](int number) {
+    if (number < 0 || !QAccessible::isActive() || !shown.hasFocus()) return;
+    QAccessibleEvent event(shown.view(), QAccessible::Focus);
+    event.setChild(number);
+    QAccessible::updateAccessibility(&event);
+  });
+}
 
 void* Combo_Accessible::interface_cast(QAccessible::InterfaceType type) {
   if (type == QAccessible::TextInterface) return static_cast<QAccessibleTextInterface*>(this);

@@ -74,7 +74,7 @@ class Cell_Accessible : public QAccessibleInterface,
 
   bool isSelected() const override { return !Fixed() && row == grid.Row() && col == grid.Col(); }
   int rowIndex() const override { return row - 1; }
-  int columnIndex() const override { return col - 1; }
+  int columnIndex() const override { return col; }
   int rowExtent() const override { return 1; }
   int columnExtent() const override { return 1; }
   QList<QAccessibleInterface*> columnHeaderCells() const override { return {Table()->Cell(0, col)}; }
@@ -158,7 +158,7 @@ QAccessibleInterface* Grid_Accessible::focusChild() const { return view.hasFocus
 
 int Grid_Accessible::rowCount() const { return std::max(grid.Rows() - 1, 0); }
 
-int Grid_Accessible::columnCount() const { return std::max(grid.Cols() - 1, 0); }
+int Grid_Accessible::columnCount() const { return grid.Cols(); }
 
 QString Grid_Accessible::rowDescription(int row) const {
   const QAccessibleInterface* header = Cell(row + 1, 0);
@@ -166,7 +166,7 @@ QString Grid_Accessible::rowDescription(int row) const {
 }
 
 QString Grid_Accessible::columnDescription(int column) const {
-  const QAccessibleInterface* header = Cell(0, column + 1);
+  const QAccessibleInterface* header = Cell(0, column);
   return header ? header->text(QAccessible::Name) : QString();
 }
 

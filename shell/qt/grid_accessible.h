@@ -12,8 +12,8 @@ namespace wrenbit {
 // Tells a screen reader where in the grid the keyboard is, if the grid has it.
 void Tell_Current_Cell(Grid_View& view);
 
-// Rows and columns of the table are counted behind the fixed ones. The children are all cells, row by row,
-// the fixed ones included.
+// The table's rows are counted behind the fixed one. Its columns begin with the addresses, so that a row that
+// is read aloud begins with its own. The children are all cells, row by row, the fixed row's first.
 class Grid_Accessible : public QAccessibleWidget, public QAccessibleTableInterface {
  public:
   explicit Grid_Accessible(Grid_View& shown);
@@ -32,7 +32,7 @@ class Grid_Accessible : public QAccessibleWidget, public QAccessibleTableInterfa
   QAccessibleInterface* summary() const override { return nullptr; }
   int rowCount() const override;
   int columnCount() const override;
-  QAccessibleInterface* cellAt(int row, int column) const override { return Cell(row + 1, column + 1); }
+  QAccessibleInterface* cellAt(int row, int column) const override { return Cell(row + 1, column); }
   QString rowDescription(int row) const override;
   QString columnDescription(int column) const override;
   int selectedCellCount() const override { return Current() ? 1 : 0; }
