@@ -37,9 +37,11 @@ QString Name_Of(Message_Icon icon) {
     case Message_Icon::Warning:
       return QStringLiteral("警告");
     case Message_Icon::Information:
+      return QStringLiteral("情報");
+    case Message_Icon::None:
       break;
   }
-  return QStringLiteral("情報");
+  return {};
 }
 
 }  // namespace
