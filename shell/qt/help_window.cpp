@@ -11,6 +11,7 @@
 #include <QStringDecoder>
 #include <QTextBrowser>
 
+#include "accessibility.h"
 #include "look.h"
 #include "platform.h"
 
@@ -82,6 +83,7 @@ class Help_Window::Page : public QTextBrowser {
 };
 
 Help_Window::Help_Window() : page(new Page) {
+  Set_Role(this, QAccessible::Window);
   setWindowTitle(QString::fromStdString(App.Title + " ヘルプ"));
   resize(kSize.boundedTo(screen()->availableSize()));
 
