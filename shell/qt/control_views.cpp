@@ -13,9 +13,11 @@
 #include <QPushButton>
 #include <QStyleOption>
 #include <QStylePainter>
+#include <algorithm>
 #include <utility>
 
 #include "accessibility.h"
+#include "fitted_text.h"
 #include "grid_view.h"
 #include "lists_and_boxes.h"
 #include "look.h"
@@ -67,9 +69,8 @@ void Withhold(QWidget* view) {
 }
 
 QWidget* Label_View(Label& label, QWidget* holder) {
-  auto* view = new QLabel(holder);
+  auto* view = new Fitted_Label(holder);
   view->setTextFormat(Qt::PlainText);
-  view->setWordWrap(true);
   view->setAlignment(Qt::AlignTop | (label.Align == Alignment::Left     ? Qt::AlignLeft
                                      : label.Align == Alignment::Centre ? Qt::AlignHCenter
                                                                         : Qt::AlignRight));
@@ -88,11 +89,11 @@ class Group_Box : public QGroupBox {
  protected:
   void paintEvent(QPaintEvent*) override {
     QPainter painter(this);
-    const int letters = fontMetrics().height();
+    const int letters = font().pixelSize();
     painter.setPen(palette().color(QPalette::Mid));
     painter.drawRect(rect().adjusted(0, letters / 2, -1, -1));
     if (title().isEmpty()) return;
-    const QRect gap(8, 0, fontMetrics().horizontalAdvance(title()) + 6, letters);
+    const QRect gap(8, 0, std::min(fontMetrics().horizontalAdvance(title()) + 6, width() - 16), letters + 1);
     painter.fillRect(gap, palette().window());
     style()->drawItemText(&painter, gap, Qt::AlignCenter, palette(), isEnabled(), title(),
                           QPalette::WindowText);
@@ -143,7 +144,7 @@ class Push_Button : public QPushButton {
     const QRect room = rect().translated(0, isDown() ? 1 : 0);
     const QRect place((room.width() - kSide) / 2, room.top() + 2, kSide, kSide);
     icon().paint(&painter, place, Qt::AlignCenter, isEnabled() ? QIcon::Normal : QIcon::Disabled);
-    painter.drawItemText(room.adjusted(0, kSide + 2, 0, -2), Qt::AlignCenter, palette(), isEnabled(), text(),
+    painter.drawItemText(room.adjusted(3, kSide + 2, -3, -2), Qt::AlignCenter, palette(), isEnabled(), text(),
                          QPalette::ButtonText);
   }
 };
@@ -210,15 +211,25 @@ class Edit_Line : public QLineEdit {
   bool entered = false;
 };
 
+// Lays the letters' em box into the middle of the box, where the style would lay their line.
+void Seat_Letters(QLineEdit& edit) {
+  const QRect room = edit.rect().adjusted(1, 1, -1, -1);
+  const QFontMetrics metrics(edit.font());
+  const int as_it_is = room.top() + (room.height() - metrics.height() + 1) / 2 + metrics.ascent();
+  const int shift = Base_Line(QStringLiteral("0gｱ"), edit.font(), room, Qt::AlignVCenter) - as_it_is;
+  // A margin below nothing, since what goes beyond the box is cut.
+  edit.setTextMargins(0, std::min(2 * shift, 0), 0, std::min(-2 * shift, 0));
+}
+
 QWidget* Text_Box_View(TextBox& box, QWidget* holder) {
   auto* view = new Edit_Line(box, holder);
   view->setMaxLength(box.MaxLength);
   view->setReadOnly(!box.Change);
   // A thin edge, because the box is hardly higher than its letters.
-  view->setStyleSheet(QStringLiteral(
-      "QLineEdit { border: 1px solid palette(dark); background: palette(base); padding-top: 1px; }"
-      "QLineEdit:focus { border-color: palette(highlight); }"
-      "QLineEdit:disabled { background: palette(window); }"));
+  view->setStyleSheet(
+      QStringLiteral("QLineEdit { border: 1px solid palette(dark); background: palette(base); }"
+                     "QLineEdit:focus { border-color: palette(highlight); }"
+                     "QLineEdit:disabled { background: palette(window); }"));
   QObject::connect(view, &QLineEdit::textEdited, view,
                    [&box](const QString& text) { box.Edit(Whole_Characters(text)); });
   // A screen reader writes the text without editing it.
@@ -228,11 +239,13 @@ QWidget* Text_Box_View(TextBox& box, QWidget* holder) {
   QObject::connect(view, &QLineEdit::selectionChanged, view, [view, &box] {
     if (view->selectionLength() != box.SelLength()) box.Set_SelLength(view->selectionLength());
   });
-  return Placed(view, box, [view, &box] {
+  Placed(view, box, [view, &box] {
     const int selected = box.SelLength();  // A new text in the view takes the selection away, from both.
     if (const QString text = Text_Of(box.Text()); view->text() != text) view->setText(text);
     if (view->selectionLength() != selected) view->setSelection(0, selected);
   });
+  Seat_Letters(*view);
+  return view;
 }
 
 // Without a caption there is hardly more room than the mark's, and the style would draw past it.
@@ -299,35 +312,24 @@ QWidget* Combo_Box_View(ComboBox& box, QWidget* holder) {
   });
 }
 
-constexpr int kWidths[] = {100, 88, 76};  // Percent.
-
 QWidget* Status_Bar_View(StatusBar& bar, QWidget* holder) {
   auto* view = new QWidget(holder);
   Set_Role(view, QAccessible::StatusBar);
-  std::array<QLabel*, StatusBar::kPanels> panels{};
+  std::array<Fitted_Label*, StatusBar::kPanels> panels{};
   int left = 0;
   for (std::size_t i = 0; i < panels.size(); ++i) {
-    panels[i] = new QLabel(view);
+    panels[i] = new Fitted_Label(view);
     panels[i]->setTextFormat(Qt::PlainText);
     panels[i]->setAccessibleDescription(Text_Of(bar.PanelNames[i]));
     panels[i]->setFrameStyle(static_cast<int>(QFrame::Panel) | static_cast<int>(QFrame::Sunken));
     panels[i]->setGeometry(Pixels(Place{left, 0, bar.Widths[i], bar.At.Height}).adjusted(1, 1, -1, -1));
+    panels[i]->setMargin(2);
     left += bar.Widths[i];
   }
   return Placed(view, bar, [panels, &bar] {
     for (int number = 1; QLabel * panel : panels) {
       const QString whole = Text_Of(bar.Panel(number++));
-      const int room = panel->contentsRect().width();
-      // Somewhat narrower letters come before dots.
-      QFont letters = Font_For(bar.Lettering);
-      for (const int width : kWidths) {
-        letters.setStretch(width);
-        if (QFontMetrics(letters).horizontalAdvance(whole) <= room) break;
-      }
-      panel->setFont(letters);
-      const QString fitting = QFontMetrics(letters).elidedText(whole, Qt::ElideRight, room);
-      panel->setText(fitting);
-      panel->setToolTip(fitting == whole ? QString() : whole);
+      panel->setText(whole);
       // Said aloud when it changes, and only then. An empty panel is called by what it tells of.
       const QString said = whole.isEmpty() ? panel->accessibleDescription() : whole;
       if (panel->accessibleName() != said) panel->setAccessibleName(said);

@@ -5,6 +5,7 @@
 #include <QScrollBar>
 #include <algorithm>
 
+#include "fitted_text.h"
 #include "grid_accessible.h"
 #include "look.h"
 
@@ -90,9 +91,8 @@ void Grid_View::paintEvent(QPaintEvent*) {
     painter.setPen(colour(fixed     ? QPalette::ButtonText
                           : current ? QPalette::HighlightedText
                                     : QPalette::Text));
-    painter.drawText(cell.adjusted(kPadding, 0, -kPadding, 0),
-                     static_cast<int>(Text_Alignment(grid.ColAlignment(col))) | Qt::TextSingleLine,
-                     Text_Of(grid.Cell(row, col)));
+    Draw_Fitted(painter, cell.adjusted(kPadding, 0, -kPadding, 0), Text_Alignment(grid.ColAlignment(col)),
+                Text_Of(grid.Cell(row, col)));
     if (current && hasFocus()) {
       painter.setPen(QPen(colour(QPalette::HighlightedText), 1, Qt::DotLine));
       painter.drawRect(cell.adjusted(0, 0, -2, -2));

@@ -9,6 +9,7 @@
 #include "accessibility.h"
 #include "end_signals.h"
 #include "file_dialog.h"
+#include "fitted_text.h"
 #include "look.h"
 #include "pictures.h"
 #include "start.h"
@@ -51,8 +52,7 @@ Program::Program(int& argc, char** argv)
       serial((Config_Folder() + QStringLiteral("/ports")).toStdString()) {
   Install_Accessibility();
   QApplication::setApplicationName(QString::fromStdString(App.Title));
-  // The only style that looks, and fits, alike on every desktop.
-  QApplication::setStyle(QStringLiteral("fusion"));
+  QApplication::setStyle(new Fitting_Style);
   QApplication::setFont(Font_For({}));
   QApplication::setWindowIcon(Icon_Of(Picture::Program));
   // When the last window goes, the logic says whether the program ends.
