@@ -2,10 +2,8 @@
 
 #include <QAction>
 #include <QCheckBox>
-#include <QComboBox>
 #include <QGroupBox>
 #include <QLabel>
-#include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMouseEvent>
@@ -14,9 +12,10 @@
 #include <QStyleOption>
 #include <QStylePainter>
 #include <algorithm>
-#include <utility>
 
 #include "accessibility.h"
+#include "drop_down.h"
+#include "edit_line.h"
 #include "fitted_text.h"
 #include "grid_view.h"
 #include "lists_and_boxes.h"
@@ -27,18 +26,6 @@ namespace wrenbit {
 namespace {
 
 QString Text_Of(const std::string& text) { return QString::fromStdString(text); }
-
-// A box that is full may cut a character of two codes in half; half a character would come out as "?".
-std::string Whole_Characters(QString text) {
-  for (qsizetype at = 0; at < text.size(); ++at) {
-    const bool pair = text[at].isHighSurrogate() && at + 1 < text.size() && text[at + 1].isLowSurrogate();
-    if (pair)
-      ++at;
-    else if (text[at].isSurrogate())
-      text[at] = QChar::ReplacementCharacter;
-  }
-  return text.toStdString();
-}
 
 // Calls show now and after each change of the control.
 template <class Show>
@@ -161,93 +148,6 @@ QWidget* Button_View(CommandButton& button, QWidget* holder) {
   });
 }
 
-class Edit_Line : public QLineEdit {
- public:
-  Edit_Line(TextBox& shown, QWidget* holder) : QLineEdit(holder), box(shown) {}
-
- protected:
-  void keyPressEvent(QKeyEvent* event) override {
-    // Shortcuts and keys that only move or delete are no characters.
-    const bool character = !event->text().isEmpty() && event->key() != Qt::Key_Delete &&
-                           !(event->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier));
-    const QString passed = character ? Passed(event->text()) : event->text();
-    if (passed == event->text()) return QLineEdit::keyPressEvent(event);
-    if (passed.isEmpty()) return;
-    QKeyEvent changed(event->type(), event->key(), event->modifiers(), passed);
-    QLineEdit::keyPressEvent(&changed);
-  }
-
-  void inputMethodEvent(QInputMethodEvent* event) override {
-    const QString passed = Passed(event->commitString());
-    if (passed == event->commitString()) return QLineEdit::inputMethodEvent(event);
-    QInputMethodEvent changed(event->preeditString(), event->attributes());
-    changed.setCommitString(passed, event->replacementStart(), event->replacementLength());
-    QLineEdit::inputMethodEvent(&changed);
-  }
-
-  // The click that comes into the box selects what is there: a full box would take no key otherwise.
-  void focusInEvent(QFocusEvent* event) override {
-    QLineEdit::focusInEvent(event);
-    entered = event->reason() == Qt::MouseFocusReason;
-  }
-  void mouseReleaseEvent(QMouseEvent* event) override {
-    QLineEdit::mouseReleaseEvent(event);
-    if (std::exchange(entered, false) && !hasSelectedText()) selectAll();
-  }
-
- private:
-  QString Passed(const QString& characters) const {
-    if (!box.KeyPress) return characters;
-    QString passed;
-    for (const QChar character : characters) {
-      auto key = static_cast<std::int16_t>(character.unicode());
-      box.KeyPress(key);
-      if (key != 0) passed += QChar(static_cast<char16_t>(key));
-    }
-    return passed;
-  }
-
-  TextBox& box;
-  bool entered = false;
-};
-
-// Lays the letters' em box into the middle of the box, where the style would lay their line.
-void Seat_Letters(QLineEdit& edit) {
-  const QRect room = edit.rect().adjusted(1, 1, -1, -1);
-  const QFontMetrics metrics(edit.font());
-  const int as_it_is = room.top() + (room.height() - metrics.height() + 1) / 2 + metrics.ascent();
-  const int shift = Base_Line(QStringLiteral("0gｱ"), edit.font(), room, Qt::AlignVCenter) - as_it_is;
-  // A margin below nothing, since what goes beyond the box is cut.
-  edit.setTextMargins(0, std::min(2 * shift, 0), 0, std::min(-2 * shift, 0));
-}
-
-QWidget* Text_Box_View(TextBox& box, QWidget* holder) {
-  auto* view = new Edit_Line(box, holder);
-  view->setMaxLength(box.MaxLength);
-  view->setReadOnly(!box.Change);
-  // A thin edge, because the box is hardly higher than its letters.
-  view->setStyleSheet(
-      QStringLiteral("QLineEdit { border: 1px solid palette(dark); background: palette(base); }"
-                     "QLineEdit:focus { border-color: palette(highlight); }"
-                     "QLineEdit:disabled { background: palette(window); }"));
-  QObject::connect(view, &QLineEdit::textEdited, view,
-                   [&box](const QString& text) { box.Edit(Whole_Characters(text)); });
-  // A screen reader writes the text without editing it.
-  QObject::connect(view, &QLineEdit::textChanged, view, [view, &box] {
-    if (view->text() != Text_Of(box.Text())) box.Edit(Whole_Characters(view->text()));
-  });
-  QObject::connect(view, &QLineEdit::selectionChanged, view, [view, &box] {
-    if (view->selectionLength() != box.SelLength()) box.Set_SelLength(view->selectionLength());
-  });
-  Placed(view, box, [view, &box] {
-    const int selected = box.SelLength();  // A new text in the view takes the selection away, from both.
-    if (const QString text = Text_Of(box.Text()); view->text() != text) view->setText(text);
-    if (view->selectionLength() != selected) view->setSelection(0, selected);
-  });
-  Seat_Letters(*view);
-  return view;
-}
-
 // Without a caption there is hardly more room than the mark's, and the style would draw past it.
 class Bare_Check_Box : public QCheckBox {
  public:
@@ -276,40 +176,15 @@ QWidget* Check_Box_View(CheckBox& box, QWidget* holder) {
   });
 }
 
-class Drop_Down : public QComboBox {
- public:
-  Drop_Down(ComboBox& shown, QWidget* holder) : QComboBox(holder), box(shown) {}
-
-  void showPopup() override {
-    for (int i = 0; box.Tip && i < count(); ++i) setItemData(i, Text_Of(box.Tip(i)), Qt::ToolTipRole);
-    QComboBox::showPopup();
-  }
-
- protected:
-  bool event(QEvent* event) override {
-    if (event->type() == QEvent::ToolTip && box.Tip && box.ListIndex() >= 0)
-      setToolTip(Text_Of(box.Tip(box.ListIndex())));
-    return QComboBox::event(event);
-  }
-  // A wheel that only rolls past must not pick another chip, which costs the image.
-  void wheelEvent(QWheelEvent* event) override { event->ignore(); }
-
- private:
-  ComboBox& box;
-};
+QWidget* Text_Box_View(TextBox& box, QWidget* holder) {
+  auto* view = new Edit_Line(box, holder);
+  return Placed(view, box, [view] { view->Follow(); });
+}
 
 QWidget* Combo_Box_View(ComboBox& box, QWidget* holder) {
   auto* view = new Drop_Down(box, holder);
   if (!box.Click) Withhold(view);
-  QObject::connect(view, &QComboBox::activated, view, [&box](int index) { box.Set_ListIndex(index); });
-  return Placed(view, box, [view, &box] {
-    while (view->count() > box.ListCount()) view->removeItem(view->count() - 1);
-    for (int i = 0; i < box.ListCount(); ++i) {
-      if (i == view->count()) view->addItem({});
-      view->setItemText(i, Text_Of(box.List(i)));
-    }
-    view->setCurrentIndex(box.ListIndex());
-  });
+  return Placed(view, box, [view] { view->Follow(); });
 }
 
 QWidget* Status_Bar_View(StatusBar& bar, QWidget* holder) {
