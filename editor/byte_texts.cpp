@@ -10,7 +10,8 @@ std::string Character_Or_Dot(bool shown, std::uint8_t byte) {
   return shown ? Cp932_Character(byte) : std::string(kCp932Dot);
 }
 
-bool Half_Width_Katakana(std::uint8_t byte) { return byte >= 0xA0 && byte <= 0xDF; }
+// Half-width katakana, and the hard blank before them.
+bool Katakana_Or_Blank(std::uint8_t byte) { return byte >= 0xA0 && byte <= 0xDF; }
 
 }  // namespace
 
@@ -20,11 +21,11 @@ std::string Byte_Cell(std::uint8_t byte) { return "0x" + Hex_Text(byte, 2); }
 // elsewhere.
 std::string Refill_Character(std::uint8_t byte) {
   const bool plain = byte > 0x20 && byte <= 0x7F && byte != '"' && byte != ',';
-  return Character_Or_Dot(plain || Half_Width_Katakana(byte), byte);
+  return Character_Or_Dot(plain || Katakana_Or_Blank(byte), byte);
 }
 
 std::string Edit_Character(std::uint8_t byte) {
-  return Character_Or_Dot((byte >= 0x20 && byte <= 0x7F) || Half_Width_Katakana(byte), byte);
+  return Character_Or_Dot((byte >= 0x20 && byte <= 0x7F) || Katakana_Or_Blank(byte), byte);
 }
 
 std::string Selection_Character(std::uint8_t byte) {

@@ -2,6 +2,7 @@
 
 #include <cmath>
 #include <optional>
+#include <utility>
 
 #include "byte_texts.h"
 #include "cell_address.h"
@@ -29,7 +30,7 @@ void Show_Row_Text() {
 }
 
 // The course of every change. What an editor makes of its box is asked for after its own events are silenced,
-// since it may write the box; nothing leaves the byte as it was.
+// since it may write the box; nullopt leaves the byte.
 void Edit_Byte(std::optional<std::uint8_t> (*new_byte)(), const Control* left_alone = nullptr) {
   if (frmMain.MSFGrid1.Col() == kAsciiCol || UpdatingControls || !Current_Cell_In_Image()) return;
   UpdatingControls = -1;

@@ -21,7 +21,7 @@ void Text_modify_hex_KeyPress(std::int16_t& key);
 void Text_modify_hex_Change();
 
 // What is above 255 or no number becomes 255, in the box too. A fraction is rounded, a half to the even
-// neighbour. A negative number leaves the byte as it was.
+// neighbour; what would become negative leaves the byte as it was.
 void Text_modify_dec_Change();
 
 // No character, or one that code page 932 lacks or gives two bytes, leaves the byte as it was.

@@ -106,7 +106,9 @@ std::string Shown(std::string_view bytes) {
 
 void Read_Version() {
   LinkError = 0;
-  frmCom.Ensure_Loaded();  // Its first use, unseen; the user's next look at it opens no port then.
+  // The port window's first use, unseen: the user's next look at it opens no port then. While a transfer runs
+  // its load leaves the port alone; it may yield.
+  frmCom.Ensure_Loaded();
   const Port_Choice port = Chosen_Port();
   if (const Port_Fault fault = Open_Chosen(port); fault != Port_Fault::None)
     return Tell_No_Answer(port.Text, fault);

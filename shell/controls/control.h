@@ -4,7 +4,9 @@
 
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <string>
+#include <utility>
 
 #include "picture.h"
 
@@ -112,15 +114,13 @@ class Captioned : public Control {
 
 enum class Alignment { Left = 1, Centre = 4, Right = 7 };
 
-inline constexpr std::uint32_t kBlack = 0x000000;  // Red, green, blue.
-
 class Label : public Captioned {
  public:
   Label(Control& holder, Place place, std::string first_caption, Font font = {},
-        Alignment alignment = Alignment::Left, std::uint32_t colour = kBlack)
+        Alignment alignment = Alignment::Left, std::optional<std::uint32_t> colour = {})
       : Captioned(holder, place, std::move(first_caption), font), Align(alignment), ForeColor(colour) {}
   const Alignment Align;
-  const std::uint32_t ForeColor;
+  const std::optional<std::uint32_t> ForeColor;  // 0xRRGGBB; the desktop's own when there is none.
 };
 
 class PictureBox : public Control {
@@ -133,7 +133,7 @@ class PictureBox : public Control {
 class Line : public Control {
  public:
   Line(Control& holder, Place place, std::uint32_t colour) : Control(holder, place), Colour(colour) {}
-  const std::uint32_t Colour;
+  const std::uint32_t Colour;  // 0xRRGGBB
 };
 
 class Frame : public Captioned {

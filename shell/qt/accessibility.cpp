@@ -1,6 +1,7 @@
 #include "accessibility.h"
 
 #include <QAccessibleWidget>
+#include <QApplication>
 #include <QLabel>
 #include <algorithm>
 
@@ -62,6 +63,11 @@ QAccessibleInterface* Interface_Of(const QString&, QObject* object) {
 }  // namespace
 
 void Install_Accessibility() { QAccessible::installFactory(Interface_Of); }
+
+bool Within_Reach(const QWidget& view) {
+  const QWidget* modal = QApplication::activeModalWidget();
+  return view.isEnabled() && (!modal || modal == view.window());
+}
 
 void Set_Role(QWidget* view, QAccessible::Role role) { view->setProperty(kRole, static_cast<int>(role)); }
 

@@ -1,5 +1,7 @@
 #include "combo_accessible.h"
 
+#include "accessibility.h"
+
 namespace wrenbit {
 namespace {
 
@@ -12,7 +14,7 @@ void Pick(QComboBox& combo, int number) {
   QMetaObject::invokeMethod(
       &combo,
       [&combo, number] {
-        if (!combo.isEnabled() || number >= combo.count()) return;
+        if (!Within_Reach(combo) || number >= combo.count()) return;
         combo.hidePopup();
         combo.setCurrentIndex(number);
         Q_EMIT combo.activated(number);
@@ -130,7 +132,7 @@ QStringList Combo_Accessible::actionNames() const {
 
 void Combo_Accessible::doAction(const QString& action) {
   if (action != showMenuAction() && action != pressAction()) return QAccessibleWidget::doAction(action);
-  if (!combo.isEnabled()) return;
+  if (!Within_Reach(combo)) return;
   if (combo.view()->isVisible())
     combo.hidePopup();
   else

@@ -12,6 +12,7 @@
 #include <QStyleOption>
 #include <QStylePainter>
 #include <algorithm>
+#include <array>
 
 #include "accessibility.h"
 #include "drop_down.h"
@@ -24,8 +25,6 @@
 
 namespace wrenbit {
 namespace {
-
-QString Text_Of(const std::string& text) { return QString::fromStdString(text); }
 
 // Calls show now and after each change of the control.
 template <class Show>
@@ -58,12 +57,12 @@ void Withhold(QWidget* view) {
 QWidget* Label_View(Label& label, QWidget* holder) {
   auto* view = new Fitted_Label(holder);
   view->setTextFormat(Qt::PlainText);
-  view->setAlignment(Qt::AlignTop | (label.Align == Alignment::Left     ? Qt::AlignLeft
-                                     : label.Align == Alignment::Centre ? Qt::AlignHCenter
-                                                                        : Qt::AlignRight));
-  QPalette colours = view->palette();
-  colours.setColor(QPalette::WindowText, QColor(label.ForeColor));
-  view->setPalette(colours);
+  view->setAlignment(Qt::AlignTop | Side(label.Align));
+  if (label.ForeColor) {
+    QPalette colours = view->palette();
+    colours.setColor(QPalette::WindowText, QColor(*label.ForeColor));
+    view->setPalette(colours);
+  }
   return Placed(view, label, [view, &label] { view->setText(Text_Of(label.Caption())); });
 }
 
@@ -141,7 +140,9 @@ QWidget* Button_View(CommandButton& button, QWidget* holder) {
   view->setIcon(Icon_Of(button.Image));
   view->setDefault(button.Default);
   view->setAutoDefault(true);  // The enter key presses the button that has the focus.
-  QObject::connect(view, &QPushButton::clicked, view, [&button] { Fire(button.Click); });
+  QObject::connect(view, &QPushButton::clicked, view, [view, &button] {
+    if (Within_Reach(*view)) Fire(button.Click);
+  });
   return Placed(view, button, [view, &button] {
     view->setText(Text_Of(button.Caption()));
     view->setEnabled(button.Enabled() && button.Click);
@@ -169,7 +170,13 @@ class Bare_Check_Box : public QCheckBox {
 QWidget* Check_Box_View(CheckBox& box, QWidget* holder) {
   auto* view = box.Caption().empty() ? new Bare_Check_Box(holder) : new QCheckBox(holder);
   if (!box.Click) Withhold(view);
-  QObject::connect(view, &QCheckBox::toggled, view, [&box](bool checked) { box.Set_Value(checked); });
+  QObject::connect(view, &QCheckBox::toggled, view, [view, &box](bool checked) {
+    if (checked == (box.Value() != 0)) return;
+    if (Within_Reach(*view))
+      box.Set_Value(checked);
+    else
+      view->setChecked(!checked);
+  });
   return Placed(view, box, [view, &box] {
     view->setText(Text_Of(box.Caption()));
     view->setChecked(box.Value() != 0);
@@ -224,8 +231,8 @@ QWidget* Menu_View(Menu& menu, QWidget* holder) {
   // Later, so that a screen reader's choice of an entry need not wait for the end of the box that comes up.
   QObject::connect(
       action, &QAction::triggered, action,
-      [action, &menu] {
-        if (action->isEnabled()) Fire(menu.Click);
+      [action, holder, &menu] {
+        if (action->isEnabled() && Within_Reach(*holder->window())) Fire(menu.Click);
       },
       Qt::QueuedConnection);
   Follow(menu, [action, &menu, offered = drop_down || menu.Click] {

@@ -2,6 +2,8 @@
 
 #include <QEvent>
 
+#include "look.h"
+
 namespace wrenbit {
 
 Drop_Down::Drop_Down(ComboBox& shown, QWidget* holder) : QComboBox(holder), box(shown) {
@@ -12,20 +14,19 @@ void Drop_Down::Follow() {
   while (count() > box.ListCount()) removeItem(count() - 1);
   for (int i = 0; i < box.ListCount(); ++i) {
     if (i == count()) addItem({});
-    setItemText(i, QString::fromStdString(box.List(i)));
+    setItemText(i, Text_Of(box.List(i)));
   }
   setCurrentIndex(box.ListIndex());
 }
 
 void Drop_Down::showPopup() {
-  for (int i = 0; box.Tip && i < count(); ++i)
-    setItemData(i, QString::fromStdString(box.Tip(i)), Qt::ToolTipRole);
+  for (int i = 0; box.Tip && i < count(); ++i) setItemData(i, Text_Of(box.Tip(i)), Qt::ToolTipRole);
   QComboBox::showPopup();
 }
 
 bool Drop_Down::event(QEvent* event) {
   if (event->type() == QEvent::ToolTip && box.Tip && box.ListIndex() >= 0)
-    setToolTip(QString::fromStdString(box.Tip(box.ListIndex())));
+    setToolTip(Text_Of(box.Tip(box.ListIndex())));
   return QComboBox::event(event);
 }
 

@@ -4,21 +4,20 @@
 #include <algorithm>
 #include <utility>
 
+#include "accessibility.h"
 #include "fitted_text.h"
+#include "look.h"
 
 namespace wrenbit {
 namespace {
 
-// A box that is full may cut a character of two codes in half; half a character would come out as "?".
-std::string Whole_Characters(QString text) {
-  for (qsizetype at = 0; at < text.size(); ++at) {
-    const bool pair = text[at].isHighSurrogate() && at + 1 < text.size() && text[at + 1].isLowSurrogate();
-    if (pair)
-      ++at;
-    else if (text[at].isSurrogate())
-      text[at] = QChar::ReplacementCharacter;
-  }
-  return text.toStdString();
+// A character of two codes counts for two in the view, and a box that is full may cut it in half. Code page
+// 932 has none of them, so one code stands for each.
+std::string Plain_Characters(const QString& text) {
+  QString plain;
+  for (const uint code : text.toUcs4())
+    plain += code > 0xFFFF ? QChar(QChar::ReplacementCharacter) : QChar(static_cast<char16_t>(code));
+  return plain.toStdString();
 }
 
 }  // namespace
@@ -32,10 +31,15 @@ Edit_Line::Edit_Line(TextBox& shown, QWidget* holder) : QLineEdit(holder), box(s
                      "QLineEdit:focus { border-color: palette(highlight); }"
                      "QLineEdit:disabled { background: palette(window); }"));
   connect(this, &QLineEdit::textEdited, this,
-          [this](const QString& typed) { box.Edit(Whole_Characters(typed)); });
-  // A screen reader writes the text without editing it.
+          [this](const QString& typed) { box.Edit(Plain_Characters(typed)); });
+  // A screen reader writes the text without editing it, and also where the user could not.
   connect(this, &QLineEdit::textChanged, this, [this] {
-    if (text() != QString::fromStdString(box.Text())) box.Edit(Whole_Characters(text()));
+    const QString known = Text_Of(box.Text());
+    if (text() == known) return;
+    if (Within_Reach(*this) && !isReadOnly())
+      box.Edit(Plain_Characters(text()));
+    else
+      setText(known);
   });
   connect(this, &QLineEdit::selectionChanged, this, [this] {
     if (selectionLength() != box.SelLength()) box.Set_SelLength(selectionLength());
@@ -44,7 +48,7 @@ Edit_Line::Edit_Line(TextBox& shown, QWidget* holder) : QLineEdit(holder), box(s
 
 void Edit_Line::Follow() {
   const int selected = box.SelLength();  // A new text in the view takes the selection away, from both.
-  if (const QString now = QString::fromStdString(box.Text()); text() != now) setText(now);
+  if (const QString now = Text_Of(box.Text()); text() != now) setText(now);
   if (selectionLength() != selected) setSelection(0, selected);
 }
 

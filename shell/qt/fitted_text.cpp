@@ -57,16 +57,15 @@ Fitted_Text Fit(const QString& text, const QFont& font, const QSize& room) {
     return {font, {text}};
   const int rows = std::max(room.height() / Em(font), 1);
   Fitted_Text fitted;
-  fitted.Letters = Widest(font, [&](const QFont& letters) {
-    fitted.Lines = Broken(text, letters, room.width());
-    return fitted.Lines.size() <= rows;
-  });
-  if (fitted.Lines.size() > rows) {
-    const QString rest = fitted.Lines.mid(rows - 1).join(' ');
-    const QString shown = QFontMetrics(fitted.Letters).elidedText(rest, Qt::ElideRight, room.width());
-    fitted.Lines = fitted.Lines.mid(0, rows - 1) << shown;
-    fitted.Whole = shown == rest;
+  for (const int percent : kStretches) {
+    fitted.Letters = Narrowed(font, percent);
+    fitted.Lines = Broken(text, fitted.Letters, room.width());
+    if (fitted.Lines.size() <= rows) return fitted;
   }
+  const QString rest = fitted.Lines.mid(rows - 1).join(' ');
+  const QString shown = QFontMetrics(fitted.Letters).elidedText(rest, Qt::ElideRight, room.width());
+  fitted.Lines = fitted.Lines.mid(0, rows - 1) << shown;
+  fitted.Whole = shown == rest;
   return fitted;
 }
 
@@ -111,6 +110,7 @@ QRect Fitted_Label::Room() const {
     const auto* widget = qobject_cast<const QWidget*>(*above);
     if (!widget || widget->isHidden() || qobject_cast<const QLabel*>(widget)) continue;
     const QRect covered = widget->geometry().translated(-pos()) & room;
+    if (covered.isEmpty()) continue;
     if (covered.left() > room.left())
       room.setRight(covered.left() - kGap);
     else if (covered.top() > room.top())

@@ -145,7 +145,8 @@ void Form_View::keyPressEvent(QKeyEvent* event) {
   const bool escape = event->key() == Qt::Key_Escape;
   for (Control* control : form.Controls())
     if (auto* button = dynamic_cast<CommandButton*>(control);
-        button && ((enter && button->Default) || (escape && button->Cancel)))
+        button && button->Reachable() && button->Visible() &&
+        ((enter && button->Default) || (escape && button->Cancel)))
       return Fire(button->Click);
 }
 

@@ -1,5 +1,9 @@
 #include "grid_accessible.h"
 
+#include <algorithm>
+
+#include "accessibility.h"
+#include "look.h"
 #include "shown_text.h"
 
 namespace wrenbit {
@@ -85,7 +89,7 @@ class Cell_Accessible : public QAccessibleInterface,
     return Fixed() ? QStringList{pressAction()} : QStringList{pressAction(), setFocusAction()};
   }
   void doAction(const QString& action) override {
-    if (!isValid() || !view.isEnabled() || !view.isVisible()) return;
+    if (!isValid() || !Within_Reach(view) || !view.isVisible()) return;
     if (action == pressAction()) view.Click_Cell(row, col);
     if (action == setFocusAction() && !Fixed()) view.Go_To_Cell(row, col);
   }
@@ -95,9 +99,6 @@ class Cell_Accessible : public QAccessibleInterface,
   QString Whole_Text() const override { return Text_Of(grid.Cell(row, col)); }
 
  private:
-  static QString Text_Of(std::string_view text) {
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-  }
   bool Fixed() const { return row == 0 || col == 0; }
   Grid_Accessible* Table() const {
     return static_cast<Grid_Accessible*>(QAccessible::queryAccessibleInterface(&view));

@@ -15,16 +15,6 @@ namespace {
 constexpr int kRowHeight = 16;
 constexpr int kPadding = 2;
 
-Qt::Alignment Text_Alignment(Alignment alignment) {
-  return Qt::AlignVCenter | (alignment == Alignment::Left     ? Qt::AlignLeft
-                             : alignment == Alignment::Centre ? Qt::AlignHCenter
-                                                              : Qt::AlignRight);
-}
-
-QString Text_Of(std::string_view text) {
-  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
-
 }  // namespace
 
 Grid_View::Grid_View(FlexGrid& shown, QWidget* holder) : QAbstractScrollArea(holder), grid(shown) {
@@ -44,7 +34,10 @@ void Grid_View::Set_Scroll_Range() {
 
 void Grid_View::Follow() {
   Set_Scroll_Range();
-  if (grid.Row() != row_in_sight) Show_Current_Row();
+  if (isHidden())
+    row_in_sight = -1;  // A refill runs through all rows.
+  else if (grid.Row() != row_in_sight)
+    Show_Current_Row();
   viewport()->update();
 }
 
@@ -91,8 +84,8 @@ void Grid_View::paintEvent(QPaintEvent*) {
     painter.setPen(colour(fixed     ? QPalette::ButtonText
                           : current ? QPalette::HighlightedText
                                     : QPalette::Text));
-    Draw_Fitted(painter, cell.adjusted(kPadding, 0, -kPadding, 0), Text_Alignment(grid.ColAlignment(col)),
-                Text_Of(grid.Cell(row, col)));
+    Draw_Fitted(painter, cell.adjusted(kPadding, 0, -kPadding, 0),
+                Qt::AlignVCenter | Side(grid.ColAlignment(col)), Text_Of(grid.Cell(row, col)));
     if (current && hasFocus()) {
       painter.setPen(QPen(colour(QPalette::HighlightedText), 1, Qt::DotLine));
       painter.drawRect(cell.adjusted(0, 0, -2, -2));

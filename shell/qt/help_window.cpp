@@ -10,6 +10,7 @@
 #include <QShortcut>
 #include <QStringDecoder>
 #include <QTextBrowser>
+#include <QUrl>
 
 #include "accessibility.h"
 #include "look.h"

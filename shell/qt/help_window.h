@@ -4,6 +4,8 @@
 #include <QWidget>
 #include <string>
 
+class QUrl;
+
 namespace wrenbit {
 
 // One page of HTML. A link to a place on it goes there, a web address goes to the user's browser, and any

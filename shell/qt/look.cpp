@@ -7,7 +7,6 @@
 #include <QStringList>
 #include <algorithm>
 #include <cmath>
-#include <string_view>
 
 namespace wrenbit {
 namespace {
@@ -74,6 +73,16 @@ QFont Display_Font(const QString& otherwise) {
 }
 
 }  // namespace
+
+QString Text_Of(std::string_view utf8) {
+  return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
+}
+
+Qt::Alignment Side(Alignment alignment) {
+  return alignment == Alignment::Left     ? Qt::AlignLeft
+         : alignment == Alignment::Centre ? Qt::AlignHCenter
+                                          : Qt::AlignRight;
+}
 
 int Pixels(double twips) { return static_cast<int>(std::lround(twips / kTwipsPerPixel)); }
 

@@ -5,12 +5,17 @@
 
 #include <QFont>
 #include <QRect>
+#include <QString>
+#include <string_view>
 
 #include "control.h"
 
 namespace wrenbit {
 
 inline constexpr double kTwipsPerPixel = 15;
+
+QString Text_Of(std::string_view utf8);
+Qt::Alignment Side(Alignment alignment);
 
 int Pixels(double twips);
 // Both edges are rounded, so that what touches in twips touches on the screen.

@@ -1,9 +1,10 @@
 // The accessible children that an interface makes when they are asked for: each is made once, and goes with
-// the interface that made it.
+// the interface that made it. As many are kept as were ever asked for.
 #pragma once
 
 #include <QAccessible>
 #include <QHash>
+#include <utility>
 
 namespace wrenbit {
 

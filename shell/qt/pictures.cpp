@@ -180,7 +180,8 @@ void Draw_Logo(QPainter& painter, bool fine) {
   Draw_Wren(painter, fine);
 }
 
-double Aspect(Picture picture) { return picture == Picture::Logo ? kLogoAspect : 1; }
+// Width by height.
+double Aspect(Picture picture) { return picture == Picture::Logo ? 2 : 1; }
 
 class Picture_Engine : public QIconEngine {
  public:

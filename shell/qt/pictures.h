@@ -10,9 +10,6 @@ class QRectF;
 
 namespace wrenbit {
 
-// Width by height. Every other picture is square.
-inline constexpr double kLogoAspect = 2;
-
 // Drawn afresh for each size and device pixel ratio, greyed while disabled. A null icon for None.
 QIcon Icon_Of(Picture picture);
 

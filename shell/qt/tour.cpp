@@ -1,7 +1,6 @@
 // wrenbit-tour: the real program with its real windows, used as a person would use it, and nobody there. It
 // needs a board on COM1 with the named chip in its socket, tells in plain lines what it does, leaves pictures
 // of the window, and ends with 0 when all came out as it should.
-#include <QCheckBox>
 #include <QComboBox>
 #include <QDialogButtonBox>
 #include <QDir>
@@ -197,8 +196,14 @@ void Tour::Edit_In_Each_Way() {
       {"hex", [&] { type(frmMain.Text_modify_hex, "a5"); }, 0xA5},
       {"decimal", [&] { type(frmMain.Text_modify_dec, "90"); }, 90},
       {"character", [&] { type(frmMain.Text_modify_asc, "W"); }, 'W'},
-      {"bits", [&] { QTest::keyClick(&Seen<QCheckBox>(frmMain.ChkBin[7]), Qt::Key_Space); },
-       ImageBuffer[8] ^ 0x80},
+      {"bits",
+       [&] {
+         // Bit 7 comes behind the character box, and bit 6 behind it.
+         Seen<QLineEdit>(frmMain.Text_modify_asc).setFocus();
+         for (const auto key : {Qt::Key_Tab, Qt::Key_Space, Qt::Key_Tab, Qt::Key_Space})
+           QTest::keyClick(program.Main_Window().focusWidget(), key);
+       },
+       ImageBuffer[8] ^ 0xC0},
   };
   for (int address = 5; const auto& edit : edits) {
     Select(address);

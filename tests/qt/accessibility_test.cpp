@@ -16,6 +16,7 @@ namespace {
 QAccessibleInterface& Seen(QWidget* view) { return *QAccessible::queryAccessibleInterface(view); }
 
 TEST(Accessibility, WhateverIsOnAWindowHasARoleAndAName) {
+  int named = 0;
   for (QWidget* window : QApplication::topLevelWidgets()) {
     auto* form_view = dynamic_cast<Form_View*>(window);
     if (!form_view) continue;
@@ -31,9 +32,11 @@ TEST(Accessibility, WhateverIsOnAWindowHasARoleAndAName) {
         if ((label && label->Caption().empty()) || dynamic_cast<const Line*>(control)) continue;
         const QString name = Seen(view).text(QAccessible::Name);
         EXPECT_FALSE(name.isEmpty() || name.contains('&')) << place;
+        ++named;
       }
     }
   }
+  EXPECT_GT(named, 50);
 }
 
 struct Sample : Form {

@@ -4,9 +4,12 @@
 #include <gtest/gtest.h>
 
 #include <QAbstractItemView>
+#include <QAccessible>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QLineEdit>
 #include <QMenu>
+#include <QPushButton>
 #include <QTest>
 #include <QTimer>
 #include <memory>
@@ -137,11 +140,38 @@ TEST_F(Views, EveryCharacterPassesTheFilterUnlessItIsPasted) {
     EXPECT_EQ(edit.text(), c.Text);
     EXPECT_EQ(events, c.Events);
   }
-  // Half of a character that needs two codes is no question mark.
-  form.Box.Set_Text("xy");
-  edit.setCursorPosition(2);
-  commit("😀");
-  EXPECT_EQ(form.Box.Text(), "xy\uFFFD");
+  // A character that needs two codes is neither a question mark nor two characters.
+  for (const char* before : {"x", "xy"}) {
+    form.Box.Set_Text(before);
+    edit.end(false);
+    commit("😀");
+    EXPECT_EQ(form.Box.Text(), std::string(before) + "\uFFFD");
+  }
+}
+
+TEST_F(Views, AssistiveTechnologyGetsNoFurtherThanTheUser) {
+  const auto events_of_all = [&] {
+    events = 0;
+    auto& edit = View<QLineEdit>(form.Box);
+    edit.setText(edit.text() == "a" ? "b" : "a");
+    View<QCheckBox>(form.Tick).toggle();
+    View<QPushButton>(form.Wired).click();
+    View<QMenu>(form.Drop).actions()[0]->trigger();
+    QAccessibleInterface* list = QAccessible::queryAccessibleInterface(&View<QComboBox>(form.List));
+    list->child(0)->child(1)->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    QCoreApplication::processEvents();
+    EXPECT_EQ(edit.text().toStdString(), form.Box.Text());
+    EXPECT_EQ(View<QCheckBox>(form.Tick).isChecked(), form.Tick.Value() == 1);
+    return events;
+  };
+  EXPECT_EQ(events_of_all(), 5);
+  Sample question;
+  Form_View box(question, Form_Kind::Dialog, window.get());
+  question.Show();
+  EXPECT_EQ(events_of_all(), 0) << "behind a modal window";
+  question.Hide();
+  for (Control* control : form.Controls()) control->Set_Enabled(false);
+  EXPECT_EQ(events_of_all(), 0) << "locked";
 }
 
 TEST_F(Views, TheClickThatEntersABoxSelectsItsText) {
@@ -173,6 +203,9 @@ TEST_F(Views, EnterAndEscapePressTheButtonsMadeForThem) {
   box.View_Of(question.No)->setFocus();
   QTest::keyClick(box.View_Of(question.No), Qt::Key_Return);
   EXPECT_EQ(pressed, "YNYN");
+  question.Yes.Set_Enabled(false);
+  QTest::keyClick(box.View_Of(question.Box), Qt::Key_Return);
+  EXPECT_EQ(pressed, "YNYN") << "a disabled one stays unpressed";
 }
 
 TEST_F(Views, APickFiresAlsoForTheEntryThatIsSelected) {

@@ -53,7 +53,9 @@ TEST(FittedText, NoTextOfTheWindowsIsCut) {
       "VDD:1.7-5.5V Endurance:1M Density:131072x8 WriteSpeed:10ms ClockSpeed:1000kHz ");
   frmAbout.lblDescription.Set_Caption(App.FileDescription);
   frmAbout.lblDisclaimer.Set_Caption(std::string("ｻﾎﾟｰﾄﾍﾟｰｼﾞ : ") + kSupportPage);
-  for (const QString& family : QFontDatabase::families(QFontDatabase::Japanese)) {
+  const QStringList families = QFontDatabase::families(QFontDatabase::Japanese);
+  ASSERT_FALSE(families.isEmpty());
+  for (const QString& family : families) {
     Expect_Whole(frmMain.Text_modify_asc, "gy", family);
     for (const Form* form : {static_cast<Form*>(&frmMain), static_cast<Form*>(&frmCom),
                              static_cast<Form*>(&frmAbout), static_cast<Form*>(&frmSplash)})

@@ -48,6 +48,15 @@ TEST_F(GridView, AClickMovesTheCurrentCellUnlessItIsAFixedOne) {
   }
 }
 
+// A refill runs through all rows of the hidden grid.
+TEST_F(GridView, ScrollsToTheCurrentRowWhenItComesBackAndNotBefore) {
+  grid.Set_Visible(false);
+  grid.Set_Row(kRows - 1);
+  EXPECT_EQ(view.verticalScrollBar()->value(), 0);
+  grid.Set_Visible(true);
+  EXPECT_FALSE(view.Cell_Rect(kRows - 1, 1).isEmpty());
+}
+
 TEST_F(GridView, KeysMoveTheCurrentCellInSightAndClickNothing) {
   const int page = view.verticalScrollBar()->pageStep();
   struct {

@@ -5,7 +5,6 @@
 
 #include <QImage>
 #include <QPainter>
-#include <vector>
 
 namespace wrenbit {
 namespace {
@@ -33,24 +32,7 @@ TEST_P(Pictures, FillTheirSquareAndNoMore) {
   }
 }
 
-// Their outlines alone tell them apart, whatever colours the eye sees.
-TEST_P(Pictures, OfTransfersDifferInOutline) {
-  std::vector<QImage> outlines;
-  for (const Picture picture :
-       {Picture::Byte_Read, Picture::Byte_Write, Picture::Block_Read, Picture::Block_Write}) {
-    const QPixmap drawn = Icon_Of(picture).pixmap(GetParam(), GetParam());
-    outlines.push_back(drawn.toImage().convertToFormat(QImage::Format_Alpha8));
-  }
-  for (std::size_t a = 0; a < outlines.size(); ++a)
-    for (std::size_t b = 0; b < a; ++b) EXPECT_NE(outlines[a], outlines[b]) << a << " and " << b;
-}
-
 INSTANTIATE_TEST_SUITE_P(Sizes, Pictures, testing::Values(16, 32, 64));
-
-TEST(Icons, AreDrawnForTheScreensResolution) {
-  EXPECT_TRUE(Icon_Of(Picture::None).isNull());
-  EXPECT_EQ(Icon_Of(Picture::Open).pixmap(QSize(32, 32), 2.0).size(), QSize(64, 64));
-}
 
 }  // namespace
 }  // namespace wrenbit
