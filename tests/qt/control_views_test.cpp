@@ -7,6 +7,7 @@
 #include <QAccessible>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QHelpEvent>
 #include <QLineEdit>
 #include <QMenu>
 #include <QPushButton>
@@ -220,6 +221,20 @@ TEST_F(Views, APickFiresAlsoForTheEntryThatIsSelected) {
   EXPECT_EQ(form.List.ListIndex(), 2);
   form.List.Clear();
   EXPECT_EQ(list.count(), 0);
+}
+
+TEST_F(Views, AListAsksForItsTipsWhenTheyAreToBeShown) {
+  std::string device = "none";
+  form.List.Tip = [&](int number) { return std::to_string(number) + ": " + device; };
+  auto& list = View<QComboBox>(form.List);
+  form.List.Set_ListIndex(1);
+  device = "plugged in";
+  QHelpEvent hover(QEvent::ToolTip, {}, {});
+  QCoreApplication::sendEvent(&list, &hover);
+  EXPECT_EQ(list.toolTip(), "1: plugged in");
+  list.showPopup();
+  EXPECT_EQ(list.itemData(2, Qt::ToolTipRole), "2: plugged in");
+  list.hidePopup();
 }
 
 TEST_F(Views, TheWindowStandsWhereTheFormSaysAndTheFormKnowsWhereItWasMoved) {
