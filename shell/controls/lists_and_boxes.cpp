@@ -8,12 +8,10 @@ TextBox::TextBox(Control& holder, Place place, int max_length, Font font)
     : Control(holder, place, font), MaxLength(max_length) {}
 
 void TextBox::Set_Text(std::string value) {
-  if (value != text) Take(std::move(value));
+  if (value != text) Edit(std::move(value));
 }
 
-void TextBox::Edit(std::string value) { Take(std::move(value)); }
-
-void TextBox::Take(std::string value) {
+void TextBox::Edit(std::string value) {
   selected = 0;
   text = std::move(value);
   Tell();

@@ -34,8 +34,6 @@ class TextBox : public Control {
   std::function<void(std::int16_t& key)> KeyPress;
 
  private:
-  void Take(std::string value);
-
   std::string text;
   int selected = 0;
 };

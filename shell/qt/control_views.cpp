@@ -232,7 +232,7 @@ QWidget* Menu_View(Menu& menu, QWidget* holder) {
   QObject::connect(
       action, &QAction::triggered, action,
       [action, holder, &menu] {
-        if (action->isEnabled() && Within_Reach(*holder->window())) Fire(menu.Click);
+        if (action->isEnabled() && Within_Reach(*holder)) Fire(menu.Click);
       },
       Qt::QueuedConnection);
   Follow(menu, [action, &menu, offered = drop_down || menu.Click] {

@@ -180,6 +180,29 @@ void Draw_Logo(QPainter& painter, bool fine) {
   Draw_Wren(painter, fine);
 }
 
+void Draw(QPainter& painter, Picture picture, bool fine) {
+  switch (picture) {
+    case Picture::None:
+      return;
+    case Picture::Open:
+      return Draw_Open(painter);
+    case Picture::Save:
+      return Draw_Save(painter);
+    case Picture::Port:
+      return Draw_Port(painter);
+    case Picture::Byte_Read:
+    case Picture::Block_Read:
+      return Draw_Transfer(painter, Way::Out, picture == Picture::Block_Read);
+    case Picture::Byte_Write:
+    case Picture::Block_Write:
+      return Draw_Transfer(painter, Way::In, picture == Picture::Block_Write);
+    case Picture::Program:
+      return Draw_Program(painter, fine);
+    case Picture::Logo:
+      return Draw_Logo(painter, fine);
+  }
+}
+
 // Width by height.
 double Aspect(Picture picture) { return picture == Picture::Logo ? 2 : 1; }
 
@@ -233,37 +256,7 @@ void Paint_Picture(QPainter& painter, const QRectF& place, Picture picture) {
   painter.translate(place.left() + std::floor((place.width() - height * Aspect(picture)) / 2),
                     place.top() + std::floor((place.height() - height) / 2));
   painter.scale(unit, unit);
-  switch (picture) {
-    case Picture::None:
-      break;
-    case Picture::Open:
-      Draw_Open(painter);
-      break;
-    case Picture::Save:
-      Draw_Save(painter);
-      break;
-    case Picture::Port:
-      Draw_Port(painter);
-      break;
-    case Picture::Byte_Read:
-      Draw_Transfer(painter, Way::Out, false);
-      break;
-    case Picture::Byte_Write:
-      Draw_Transfer(painter, Way::In, false);
-      break;
-    case Picture::Block_Read:
-      Draw_Transfer(painter, Way::Out, true);
-      break;
-    case Picture::Block_Write:
-      Draw_Transfer(painter, Way::In, true);
-      break;
-    case Picture::Program:
-      Draw_Program(painter, fine);
-      break;
-    case Picture::Logo:
-      Draw_Logo(painter, fine);
-      break;
-  }
+  Draw(painter, picture, fine);
   painter.restore();
 }
 
