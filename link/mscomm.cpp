@@ -1,11 +1,23 @@
 #include "mscomm.h"
 
+#include <algorithm>
+
+#include "platform.h"
+
 namespace wrenbit {
+namespace {
+
+constexpr std::size_t kOutBufferSize = 512;
+constexpr double kWireByteTime = 10.0 / 9600;  // Start bit, eight data bits, stop bit.
+
+}  // namespace
 
 Port_Fault MSComm::Open() {
   Close();
   const Port_Fault fault = backend ? backend->Open(CommPort, RTSEnable, DTREnable) : Port_Fault::No_Such_Port;
   open = fault == Port_Fault::None;
+  byte_time = kWireByteTime;
+  wire_free = 0;
   return fault;
 }
 
@@ -26,7 +38,20 @@ void MSComm::Clear_InBuffer() {
 std::vector<std::uint8_t> MSComm::Input() { return open ? backend->Take() : std::vector<std::uint8_t>(); }
 
 void MSComm::Output(std::span<const std::uint8_t> bytes) {
-  if (open) backend->Write(bytes);
+  Await_Room(bytes.size());
+  if (!open) return;
+  wire_free = std::max(wire_free, Timer()) + static_cast<double>(bytes.size()) * byte_time;
+  backend->Write(bytes);
+}
+
+void MSComm::Learn_Pace(std::size_t bytes, double seconds) {
+  const double seen = seconds / static_cast<double>(bytes);
+  if (seen < kWireByteTime / 2) byte_time = seen;
+}
+
+void MSComm::Await_Room(std::size_t bytes) {
+  const double room = (static_cast<double>(kOutBufferSize) - static_cast<double>(bytes)) * byte_time;
+  while (open && !Lost() && wire_free - Timer() > room) ThePlatform->Await_Event(wire_free - Timer() - room);
 }
 
 }  // namespace wrenbit

@@ -143,5 +143,27 @@ TEST_F(Link_Test, APortThatHasGoneIsNotWaitedFor) {
   EXPECT_LT(bench.Now() - before, 0.01);
 }
 
+// The wire's own share of a reply's second must stay small, whatever the system swallows at once.
+TEST_F(Link_Test, WhatIsSentRunsAtMost512BytesAheadOfTheWireOrOfWhatWasSeenOfIt) {
+  const struct {
+    const char* Name;
+    double Seen;  // Seconds for 18 bytes; 0 = nothing seen.
+    double ByteTime;
+  } cases[] = {{"no word of it", 0, 10.0 / 9600},
+               {"a wire", 18 * 10.0 / 9600, 10.0 / 9600},
+               {"an adapter that bundles", 0.035, 10.0 / 9600},
+               {"a virtual port", 0.0018, 0.0001}};
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.Name);
+    MSComm1.Open();
+    if (c.Seen > 0) MSComm1.Learn_Pace(18, c.Seen);
+    const double before = bench.Now();
+    for (int i = 0; i < 128; ++i) Link_WritePortB(0x40);
+    EXPECT_NEAR(bench.Now(), before, 1e-4) << "512 bytes wait for nothing";
+    for (int i = 128; i < 1000; ++i) Link_WritePortB(0x40);
+    EXPECT_NEAR(bench.Now() - before, (4000 - 512) * c.ByteTime, 1e-3);
+  }
+}
+
 }  // namespace
 }  // namespace wrenbit
