@@ -2,9 +2,11 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <string>
 
 #include "descriptor.h"
+#include "typed_lines.h"
 #include "wire_end.h"
 
 namespace board {
@@ -23,9 +25,11 @@ class Board_Terminal {
   // The device that the PC opens, as often as it likes.
   const std::string& Device() const { return Name; }
 
-  // Carries bytes between the PC and `end` until a signal asks for the stop. A PC that doesn't read loses the
-  // replies that the terminal can't hold. Throws std::system_error, and what `end` throws.
-  void Serve(Wire_End& end, Pace pace);
+  // Carries bytes between the PC and `end` until a signal asks for the stop, and hands each line that is
+  // typed meanwhile to `told`. A PC that doesn't read loses the replies that the terminal can't hold. Throws
+  // std::system_error, and what `end` and `told` throw.
+  void Serve(Wire_End& end, Pace pace, Typed_Lines& typed,
+             const std::function<void(const std::string& line)>& told);
 
  private:
   // A claim to the port for one program alone (TIOCEXCL) ends when the last holder closes the port. Here that

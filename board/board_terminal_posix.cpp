@@ -111,13 +111,15 @@ Board_Terminal::Board_Terminal() : Master(posix_openpt(O_RDWR | O_NOCTTY | O_CLO
   Hold_Stop_Signals();
 }
 
-void Board_Terminal::Serve(Wire_End& end, Pace pace) {
+void Board_Terminal::Serve(Wire_End& end, Pace pace, Typed_Lines& typed,
+                           const std::function<void(const std::string& line)>& told) {
   Wire_Schedule wire(pace);
   std::deque<Waiting> replies;
   while (!StopAsked) {
     pollfd files[] = {{.fd = *Master, .events = POLLIN, .revents = 0},
-                      {.fd = *Closings, .events = POLLIN, .revents = 0}};
-    auto& [master, closings] = files;
+                      {.fd = *Closings, .events = POLLIN, .revents = 0},
+                      {.fd = typed.Number(), .events = POLLIN, .revents = 0}};
+    auto& [master, closings, keyboard] = files;
     timespec until_due{};
     bool waits_for_due = false;
     if (!replies.empty()) {
@@ -136,6 +138,8 @@ void Board_Terminal::Serve(Wire_End& end, Pace pace) {
     if (closings.revents & POLLIN) Unclaim();
     if (master.revents & POLLOUT) Put_Out(*Master, replies);
     if (master.revents & POLLIN) Take_In(*Master, end, wire, replies);
+    if (!keyboard.revents) continue;
+    for (const std::string& line : typed.Take()) told(line);
   }
 }
 

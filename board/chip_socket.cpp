@@ -27,7 +27,7 @@ Levels Chip_Socket::Resolve() const {
   Levels levels;
   for (const Line line : kLines) {
     const Drive board = ByBoard[line];
-    const Drive chip = Seated ? Seated->Drives_Line(line) : Drive::kReleased;
+    const Drive chip = Seated ? Seated->Drives_Line(line, Now) : Drive::kReleased;
     if (Stuck[line]) {
       levels[line] = *Stuck[line];
     } else if (board == Drive::kLow || chip == Drive::kLow) {

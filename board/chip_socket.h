@@ -38,8 +38,8 @@ class Chip {
   // own making included. Without supply the chip forgets all but its cells. Throws what its store throws.
   virtual void Sense(const Levels& levels, double now) = 0;
 
-  // What the chip does to a line. Nothing, while it has no supply.
-  virtual Drive Drives_Line(Line line) const = 0;
+  // What the chip does to a line at `now`, no earlier than the last change. Nothing, while it has no supply.
+  virtual Drive Drives_Line(Line line, double now) const = 0;
 };
 
 class Chip_Socket {

@@ -1,17 +1,28 @@
-// Chips by name.
+// Chips by name, of both families.
 #pragma once
 
 #include <memory>
+#include <optional>
+#include <string>
 #include <string_view>
+#include <vector>
 
 #include "cell_store.h"
-#include "chip_geometry.h"
 #include "chip_socket.h"
+#include "three_wire_parts.h"
+#include "two_wire_parts.h"
 
 namespace board {
 
-// Null when no part has that very name.
-const Chip_Geometry* Find_Chip(std::string_view name);
+// Two-wire parts first, each family in order of size.
+std::vector<std::string> Chip_Names();
+
+// Null when no part of the family has that very name.
+const Two_Wire_Part* Find_Two_Wire(std::string_view name);
+const Three_Wire_Part* Find_Three_Wire(std::string_view name);
+
+// Bytes; nothing when no part has that very name.
+std::optional<std::size_t> Chip_Size(std::string_view name);
 
 // A chip over `store`, which must have its size and outlive it. Throws std::invalid_argument for an unknown
 // name and for a store of another size.

@@ -123,7 +123,11 @@ Programmer_Board::Reply Programmer_Board::Set_Direction() {
   return {};
 }
 
-Programmer_Board::Reply Programmer_Board::Read_Pins() { return {Pins(Frame.at(2))}; }
+// A chip may have let go of a line meanwhile, with nothing driven anew.
+Programmer_Board::Reply Programmer_Board::Read_Pins() {
+  Drive_Lines();
+  return {Pins(Frame.at(2))};
+}
 
 Programmer_Board::Reply Programmer_Board::Send_Bit_1() {
   Clock_Out(kTwoWire, true);

@@ -1,18 +1,21 @@
 // tolvex-sim: a programmer board with a chip in its socket, on a serial port that is none.
 #include <CLI/CLI.hpp>
+#include <algorithm>
 #include <exception>
 #include <iostream>
 #include <memory>
 #include <string>
-#include <vector>
 
 #include "board_terminal.h"
 #include "com_port_link.h"
 #include "image_store.h"
 #include "make_chip.h"
 #include "programmer_board.h"
+#include "typed_lines.h"
 
 namespace {
+
+constexpr const char* kNoChip = "none";
 
 struct Options {
   int Com = 0;
@@ -23,9 +26,9 @@ struct Options {
   bool Paced = false;
 };
 
-std::vector<std::string> Chip_Names() {
-  std::vector<std::string> names;
-  for (const auto& chip : board::Two_Wire_Chips()) names.emplace_back(chip.Name);
+std::vector<std::string> Chips_And_None() {
+  auto names = board::Chip_Names();
+  names.emplace_back(kNoChip);
   return names;
 }
 
@@ -36,7 +39,7 @@ void Describe(CLI::App& app, Options& options) {
       ->check(CLI::Range(1, 20));
   app.add_option("--chip", options.Chip, "Chip in the socket")
       ->required()
-      ->check(CLI::IsMember(Chip_Names()));
+      ->check(CLI::IsMember(Chips_And_None(), CLI::ignore_case));
   app.add_option(
       "--image", options.Image,
       "File with the chip's bytes; made if it is not there. Without it the chip is erased at every start");
@@ -44,26 +47,85 @@ void Describe(CLI::App& app, Options& options) {
       ->capture_default_str();
   app.add_option("--id", options.Identification, "Whole answer to \"?\", in place of the firmware's");
   app.add_flag("--pace", options.Paced, "Reply no earlier than 9600 baud would");
+  app.footer(
+      "To swap the chip while the board runs, type a line with the new one, and its image if it has one:\n"
+      "  AT93C46 my-chip.bin\n"
+      "  none");
 }
 
-std::unique_ptr<board::Cell_Store> Open_Store(const Options& options, std::size_t size) {
-  if (options.Image.empty()) return std::make_unique<board::Cell_Store>(size);
-  return std::make_unique<board::Image_Store>(options.Image, size);
+// The socket, and the cells of the chip in it.
+class Chip_Seat {
+ public:
+  explicit Chip_Seat(board::Programmer_Board& programmer) : Programmer(programmer) {}
+
+  // Swaps the chip; an empty image stands for erased cells that nothing keeps. When it throws, the chip that
+  // was in the socket is still there.
+  void Seat(const std::string& chip, const std::string& image) {
+    if (chip == kNoChip) {
+      Programmer.Insert(nullptr);
+      Cells.reset();
+      Content = "no chip";
+      return;
+    }
+    const auto size = board::Chip_Size(chip);
+    if (!size) throw std::invalid_argument("no chip has the name " + chip);
+    std::unique_ptr<board::Cell_Store> cells;
+    if (image.empty())
+      cells = std::make_unique<board::Cell_Store>(*size);
+    else
+      cells = std::make_unique<board::Image_Store>(image, *size);
+    Programmer.Insert(board::Make_Chip(chip, *cells));
+    Cells = std::move(cells);
+    Content = chip + " (" + std::to_string(*size) + " bytes)";
+  }
+
+  const std::string& Text() const { return Content; }
+
+ private:
+  board::Programmer_Board& Programmer;
+  std::unique_ptr<board::Cell_Store> Cells;
+  std::string Content;
+};
+
+std::string Between_Blanks(const std::string& text) {
+  const char* const blanks = " \t\r";
+  const auto begin = text.find_first_not_of(blanks);
+  return begin == std::string::npos ? "" : text.substr(begin, text.find_last_not_of(blanks) - begin + 1);
+}
+
+// The name as the parts have it, whatever case was typed.
+std::string Chip_Named(const std::string& typed) {
+  for (const std::string& name : Chips_And_None())
+    if (CLI::detail::to_lower(name) == CLI::detail::to_lower(typed)) return name;
+  return typed;
+}
+
+// A line is a chip and, behind a blank, the whole path of its image.
+void Swap(Chip_Seat& seat, const std::string& typed) {
+  const std::string line = Between_Blanks(typed);
+  const auto chip_end = std::min(line.find_first_of(" \t"), line.size());
+  try {
+    if (!line.empty()) seat.Seat(Chip_Named(line.substr(0, chip_end)), Between_Blanks(line.substr(chip_end)));
+  } catch (const std::exception& error) {
+    std::cout << "tolvex-sim: " << error.what() << '\n';
+  }
+  std::cout << "tolvex-sim: " << seat.Text() << " in the socket" << std::endl;
 }
 
 void Run(const Options& options) {
-  const std::size_t size = board::Find_Chip(options.Chip)->Bytes;
-  const auto store = Open_Store(options, size);
+  board::Typed_Lines typed;
   board::Programmer_Board programmer(options.Firmware);
   if (!options.Identification.empty()) programmer.Identify_As(options.Identification);
-  programmer.Insert(board::Make_Chip(options.Chip, *store));
+  Chip_Seat seat(programmer);
+  seat.Seat(options.Chip, options.Image);
 
   board::Board_Terminal terminal;
   {
     const board::Com_Port_Link link(options.Com, terminal.Device());
-    std::cout << "tolvex-sim: " << options.Chip << " (" << size << " bytes) on COM" << options.Com << " = "
-              << terminal.Device() << ", firmware " << options.Firmware << std::endl;
-    terminal.Serve(programmer, options.Paced ? board::Pace::kWire : board::Pace::kAtOnce);
+    std::cout << "tolvex-sim: " << seat.Text() << " on COM" << options.Com << " = " << terminal.Device()
+              << ", firmware " << options.Firmware << std::endl;
+    terminal.Serve(programmer, options.Paced ? board::Pace::kWire : board::Pace::kAtOnce, typed,
+                   [&](const std::string& line) { Swap(seat, line); });
   }
   std::cout << "tolvex-sim: " << programmer.Commands() << " commands, " << programmer.Bytes_In()
             << " bytes out to the board, " << programmer.Bytes_Out() << " bytes back" << std::endl;

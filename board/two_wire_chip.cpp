@@ -27,7 +27,7 @@ void Two_Wire_Chip::Sense(const Levels& levels, double now) {
   }
 }
 
-Drive Two_Wire_Chip::Drives_Line(Line line) const {
+Drive Two_Wire_Chip::Drives_Line(Line line, double /*now*/) const {
   return line == Line::kSda && PullsSda ? Drive::kLow : Drive::kReleased;
 }
 

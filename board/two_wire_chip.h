@@ -6,18 +6,18 @@
 #include <optional>
 
 #include "cell_store.h"
-#include "chip_geometry.h"
 #include "chip_socket.h"
+#include "two_wire_parts.h"
 
 namespace board {
 
 class Two_Wire_Chip : public Chip {
  public:
   // Both must outlive the chip.
-  Two_Wire_Chip(const Chip_Geometry& geometry, Cell_Store& cells) : Part(geometry), Cells(cells) {}
+  Two_Wire_Chip(const Two_Wire_Part& geometry, Cell_Store& cells) : Part(geometry), Cells(cells) {}
 
   void Sense(const Levels& levels, double now) override;
-  Drive Drives_Line(Line line) const override;
+  Drive Drives_Line(Line line, double now) const override;
 
  private:
   enum class Phase : std::uint8_t { kStandby, kReceive, kAcknowledge, kSend, kAnswer };
@@ -32,7 +32,7 @@ class Two_Wire_Chip : public Chip {
   void Send_Cell();
   void Stand_By();
 
-  const Chip_Geometry& Part;
+  const Two_Wire_Part& Part;
   Cell_Store& Cells;
 
   bool Powered = false;

@@ -47,7 +47,7 @@ class Probe : public board::Chip {
     High = levels[Clock];
     Trace += levels[Clock] ? (levels[Data] ? "H" : "h") : (levels[Data] ? "L" : "l");
   }
-  board::Drive Drives_Line(Line line) const override {
+  board::Drive Drives_Line(Line line, double) const override {
     return line == Driven ? Out : board::Drive::kReleased;
   }
 

@@ -1,4 +1,4 @@
-// A PC for tests: speaks the board's commands and drives the two-wire bus with them, on either route.
+// A PC for tests: speaks the board's commands and drives both buses with them, on either route.
 #pragma once
 
 #include <cstdint>
@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-#include "chip_geometry.h"
+#include "two_wire_parts.h"
 #include "wire_end.h"
 
 using Bytes = std::vector<std::uint8_t>;
@@ -47,6 +47,38 @@ class Test_Pc {
   bool Power_Off() {
     Set_Ports(0, 0, 0xFF, 0xFF, 0x7F);
     return Pins("a", 6) == 0 && Pins("b", 0x5C) == 0 && Pins("c", 0x88) == 0x80;
+  }
+
+  void Power_On_93() { Set_Ports(0, 0x40, 0xF9, 0xA7, 0x77); }
+  void Select(bool chip) { Say("mwc", {static_cast<std::uint8_t>(chip ? 0x88 : 0x80)}); }
+
+  static std::string Binary(std::size_t value, int digits) {
+    std::string text;
+    for (int bit = digits - 1; bit >= 0; --bit) text += value >> bit & 1 ? '1' : '0';
+    return text;
+  }
+
+  // A character a bit.
+  void Send_93(const std::string& bits) {
+    for (const char bit : bits) {
+      const bool high = bit == '1';
+      if (Way == Route::kAccelerators) {
+        Say("0", {1, 0, high});
+        continue;
+      }
+      for (const int clock : {0x40, 0x50, 0x40}) Say("mwb", {static_cast<std::uint8_t>(clock | high << 3)});
+    }
+  }
+
+  std::uint8_t Read_93() {
+    if (Way == Route::kAccelerators) return Say("8").at(0);
+    int byte = 0;
+    for (int bit = 0; bit < 8; ++bit) {
+      Say("mwb", {0x50});
+      byte = byte << 1 | Pins("b", 4) >> 2;
+      Say("mwb", {0x40});
+    }
+    return static_cast<std::uint8_t>(byte);
   }
 
   bool Start() { return Lines(6) && Lines(2) && Lines(0); }
@@ -96,7 +128,7 @@ class Test_Pc {
   }
 
   // Start condition, control byte and address bytes. From 4 KiB on, parts take two address bytes.
-  bool Address(const board::Chip_Geometry& part, std::size_t address) {
+  bool Address(const board::Two_Wire_Part& part, std::size_t address) {
     const bool two = part.Bytes >= 4096;
     const int at = static_cast<int>(address);
     return Start() && Send(0xA0 | at >> (two ? 16 : 8) << 1) && (!two || Send(at >> 8 & 0xFF)) &&
@@ -104,7 +136,7 @@ class Test_Pc {
   }
 
   // One write frame, of any length.
-  bool Write(const board::Chip_Geometry& part, std::size_t address, const Bytes& bytes) {
+  bool Write(const board::Two_Wire_Part& part, std::size_t address, const Bytes& bytes) {
     bool good = Address(part, address);
     for (const std::uint8_t byte : bytes) good = Send(byte) && good;
     return Stop() && good;
@@ -118,7 +150,7 @@ class Test_Pc {
     return Stop() ? bytes : Bytes{};
   }
 
-  Bytes Read_From(const board::Chip_Geometry& part, std::size_t address, std::size_t count) {
+  Bytes Read_From(const board::Two_Wire_Part& part, std::size_t address, std::size_t count) {
     return Address(part, address) ? Read_On(count) : Bytes{};
   }
 

@@ -41,8 +41,12 @@ class Simulator {
     EXPECT_EQ(pipe2(ends, O_CLOEXEC), 0);
     Output = board::Descriptor(ends[0]);
     const board::Descriptor into(ends[1]);
+    EXPECT_EQ(pipe2(ends, O_CLOEXEC), 0);
+    const board::Descriptor keys(ends[0]);
+    Keyboard = board::Descriptor(ends[1]);
     posix_spawn_file_actions_t actions;
     posix_spawn_file_actions_init(&actions);
+    posix_spawn_file_actions_adddup2(&actions, *keys, STDIN_FILENO);
     posix_spawn_file_actions_adddup2(&actions, *into, STDOUT_FILENO);
     posix_spawn_file_actions_adddup2(&actions, *into, STDERR_FILENO);
     std::string variable = "XDG_CONFIG_HOME=" + config.string();
@@ -61,6 +65,10 @@ class Simulator {
   Simulator& operator=(const Simulator&) = delete;
 
   std::string Line() { return Read(*Output, 0); }
+  void Type(const std::string& keys) {
+    EXPECT_EQ(write(*Keyboard, keys.data(), keys.size()), static_cast<ssize_t>(keys.size()));
+  }
+  void End_Typing() { Keyboard = board::Descriptor(); }
 
   // The exit code, or minus the signal that it died of. A program that doesn't end is killed.
   int Wait() {
@@ -79,7 +87,7 @@ class Simulator {
 
  private:
   pid_t Child = 0;
-  board::Descriptor Output;
+  board::Descriptor Output, Keyboard;
 };
 
 class Tolvex_Sim : public testing::Test {
@@ -166,6 +174,33 @@ TEST_F(Tolvex_Sim, Outlives_A_Port_That_Sends_And_Never_Reads) {
     const ssize_t taken = write(*port, queries.data(), queries.size());
     if (taken > 0) sent += static_cast<std::size_t>(taken);
   }
+  EXPECT_EQ(simulator.End(SIGTERM), 0);
+}
+
+TEST_F(Tolvex_Sim, Swaps_The_Chip_At_A_Typed_Line_And_Keeps_It_When_The_Line_Is_Wrong) {
+  const std::string image = Config / "a chip.bin";
+  Put_Content(Config / "short.bin", "short");
+  Simulator simulator(Config / "", Plain);
+  simulator.Line();
+  const struct {
+    std::string Typed;
+    std::vector<std::string> Says;
+  } lines[] = {
+      {"at93c46  " + image + " \r\n", {"AT93C46 (128 bytes) in the socket"}},
+      {"24C99\n", {"no chip has the name 24C99", "AT93C46 (128 bytes) in the socket"}},
+      {"24C02 " + (Config / "short.bin") + "\n",
+       {"image " + (Config / "short.bin") + ": holds 5 bytes, the chip 256",
+        "AT93C46 (128 bytes) in the socket"}},
+      {"\n", {"AT93C46 (128 bytes) in the socket"}},
+      {"NONE\n", {"no chip in the socket"}},
+  };
+  for (const auto& line : lines) {
+    simulator.Type(line.Typed);
+    for (const std::string& says : line.Says) EXPECT_EQ(simulator.Line(), "tolvex-sim: " + says + "\n");
+  }
+  EXPECT_EQ(Content(image), std::string(128, '\xFF'));
+  simulator.End_Typing();
+  EXPECT_EQ(Ask(), Identity);
   EXPECT_EQ(simulator.End(SIGTERM), 0);
 }
 

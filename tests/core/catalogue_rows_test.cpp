@@ -7,8 +7,8 @@
 #include <set>
 
 #include "catalogue_text.h"
-#include "chip_geometry.h"
 #include "code_page_932.h"
+#include "make_chip.h"
 
 namespace wrenbit {
 namespace {
@@ -17,12 +17,6 @@ Catalogue Delivered() {
   std::ifstream file(WRENBIT_INI, std::ios::binary);
   const std::string text(std::istreambuf_iterator<char>(file), {});
   return Read_Catalogue(Utf8_From_Cp932(text));
-}
-
-const board::Chip_Geometry* Geometry_Of(const std::string& name) {
-  for (const board::Chip_Geometry& chip : board::Two_Wire_Chips())
-    if (chip.Name == name) return &chip;
-  return nullptr;
 }
 
 TEST(Delivered_Catalogue, IsCleanAndWhole) {
@@ -39,26 +33,28 @@ TEST(Delivered_Catalogue, IsCleanAndWhole) {
 }
 
 TEST(Delivered_Catalogue, AgreesWithTheDataSheets) {
-  std::size_t two_wire = 0;
+  std::set<std::string> names;
   for (const Device_Row& row : Delivered().Rows) {
     SCOPED_TRACE(row[kName]);
-    if (Number_Cell(row, kFamily) == 3) {
-      EXPECT_EQ(Number_Cell(row, kAddressBits), Number_Cell(row, kMemSize)) << "8-bit organisation";
+    names.insert(row[kName]);
+    const auto bytes = board::Chip_Size(row[kName]);
+    ASSERT_TRUE(bytes);
+    EXPECT_EQ(1U << Number_Cell(row, kMemSize), *bytes);
+    EXPECT_EQ(row[kDensity], std::to_string(*bytes) + "x8");
+    if (const auto* chip = board::Find_Three_Wire(row[kName])) {
+      EXPECT_EQ(Number_Cell(row, kFamily), 3);
+      EXPECT_EQ(Number_Cell(row, kAddressBits), chip->AddressBits);
       continue;
     }
+    const board::Two_Wire_Part* chip = board::Find_Two_Wire(row[kName]);
     ASSERT_EQ(Number_Cell(row, kFamily), 2);
-    ++two_wire;
-    const board::Chip_Geometry* chip = Geometry_Of(row[kName]);
-    ASSERT_NE(chip, nullptr);
-    EXPECT_EQ(1U << Number_Cell(row, kMemSize), chip->Bytes);
     EXPECT_EQ(Number_Cell(row, kAddressMode), chip->AddressBytes);
-    EXPECT_EQ(row[kDensity], std::to_string(chip->Bytes) + "x8");
     // A page that is too large overwrites its own start; a smaller one only takes longer.
     EXPECT_LE(static_cast<std::size_t>(Number_Cell(row, kPageSize)), chip->Page);
     EXPECT_GE(Number_Cell(row, kPageSize), 1);
     EXPECT_EQ(chip->Page % static_cast<std::size_t>(Number_Cell(row, kPageSize)), 0U);
   }
-  EXPECT_EQ(two_wire, board::Two_Wire_Chips().size());
+  EXPECT_EQ(names.size(), board::Chip_Names().size());
 }
 
 }  // namespace

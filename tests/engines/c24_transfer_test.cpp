@@ -17,7 +17,7 @@ void PrintTo(const Part& part, std::ostream* out) { *out << part.Name << " at " 
 
 std::vector<Part> All_Parts() {
   std::vector<Part> parts;
-  for (const board::Chip_Geometry& chip : board::Two_Wire_Chips())
+  for (const auto& chip : board::Two_Wire_Parts())
     for (const char* firmware : {"4.90", "5.00"}) parts.push_back({std::string(chip.Name), firmware});
   return parts;
 }

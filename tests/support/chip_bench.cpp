@@ -10,15 +10,14 @@ namespace wrenbit {
 Chip_Bench::Chip_Bench(const std::string& chip, const std::string& firmware, bool open_port)
     : Programmer(firmware) {
   Board = &Programmer;
-  const board::Chip_Geometry* geometry = board::Find_Chip(chip.empty() ? "24C02" : chip);
-  if (!chip.empty()) {
-    Cells = std::make_unique<board::Cell_Store>(geometry->Bytes);
-    Programmer.Insert(board::Make_Chip(chip, *Cells));
-  }
+  Cells = std::make_unique<board::Cell_Store>(board::Chip_Size(chip).value());
+  Programmer.Insert(board::Make_Chip(chip, *Cells));
   frmMain.Ensure_Loaded();
   frmMain.CmbSize.Set_ListIndex(frmMain.CmbSize.ListCount() - 1);
-  Select_Device(2, std::countr_zero(geometry->Bytes), static_cast<int>(geometry->Page),
-                geometry->AddressBytes);
+  if (const auto* part = board::Find_Two_Wire(chip))
+    Select_Device(2, std::countr_zero(part->Bytes), static_cast<int>(part->Page), part->AddressBytes);
+  if (const auto* part = board::Find_Three_Wire(chip))
+    Select_Device(3, std::countr_zero(part->Bytes), 1, 0, part->AddressBits);
   frmMain.Show();
   if (open_port) {
     Read_Version();
@@ -33,14 +32,19 @@ void Chip_Bench::Fill_Chip(unsigned seed) {
 
 void Chip_Bench::Fill_Image(unsigned seed) { ImageBuffer = Pattern(ImageBuffer.size(), seed); }
 
-void Select_Device(int family, int mem_size, int page_size, int address_mode) {
+void Select_Device(int family, int mem_size, int page_size, int address_mode, int address_bits) {
   Device_Row row;
   row[0] = "device";
   row[2] = std::to_string(family);
   row[3] = std::to_string(mem_size);
   row[4] = std::to_string(page_size);
   row[5] = std::to_string(address_mode);
+  row[6] = std::to_string(address_bits);
   row[7] = "density";
+  Select_Row(row);
+}
+
+void Select_Row(const Device_Row& row) {
   DeviceTable = {row};
   frmMain.Combo_device.Clear();
   frmMain.Combo_device.AddItem(row[0]);

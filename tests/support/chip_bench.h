@@ -17,8 +17,8 @@ namespace wrenbit {
 
 class Chip_Bench : public Test_Bench {
  public:
-  // An empty name leaves the socket empty. The chip is selected as the device, with the board's own geometry,
-  // the whole chip as the block, and the main window shown.
+  // The chip is selected as the device, with the board's own geometry, the whole chip as the block, and the
+  // main window shown.
   Chip_Bench(const std::string& chip, const std::string& firmware, bool open_port = false);
 
   std::unique_ptr<board::Cell_Store> Cells;
@@ -30,7 +30,8 @@ class Chip_Bench : public Test_Bench {
 };
 
 // Makes a device of a catalogue row and selects it as the user does.
-void Select_Device(int family, int mem_size, int page_size, int address_mode);
+void Select_Device(int family, int mem_size, int page_size, int address_mode, int address_bits = 0);
+void Select_Row(const Device_Row& row);
 
 // A pattern in which neighbours, rows and pages all differ.
 Bytes Pattern(std::size_t size, unsigned seed);

@@ -8,7 +8,7 @@
 
 namespace board {
 
-struct Chip_Geometry {
+struct Two_Wire_Part {
   std::string_view Name;
   std::size_t Bytes;            // A power of two.
   std::size_t Page;             // Bytes in one write cycle, a power of two.
@@ -19,6 +19,6 @@ struct Chip_Geometry {
 };
 
 // In order of size, the makers' plain numbers first.
-std::span<const Chip_Geometry> Two_Wire_Chips();
+std::span<const Two_Wire_Part> Two_Wire_Parts();
 
 }  // namespace board

@@ -12,7 +12,7 @@
 // Parts without a maker's prefix stand for all makers: the smallest page on current parts of the number,
 // Microchip's write time. Sources: data sheets of Atmel (AT24Cxx, AT24C1024), Microchip (24xx00, 24LC01B to
 // 24LC512, 24LC1026), ST (M24Cxx), onsemi (CAT24Cxx) and Rohm (BR24Txx).
-#include "chip_geometry.h"
+#include "two_wire_parts.h"
 
 namespace board {
 
@@ -21,7 +21,7 @@ namespace {
 constexpr double kMs = 1e-3;
 
 // clang-format off
-constexpr Chip_Geometry kTwoWireChips[] = {
+constexpr Two_Wire_Part kTwoWireParts[] = {
     // name        bytes  page  address  carries   wants  write
     //                          bytes    address   low    cycle
     {"24C00",         16,    1, 1,       0b0000, 0b0000,  4 * kMs},
@@ -58,6 +58,6 @@ constexpr Chip_Geometry kTwoWireChips[] = {
 
 }  // namespace
 
-std::span<const Chip_Geometry> Two_Wire_Chips() { return kTwoWireChips; }
+std::span<const Two_Wire_Part> Two_Wire_Parts() { return kTwoWireParts; }
 
 }  // namespace board
