@@ -2,12 +2,14 @@
 
 #include "c24_block.h"
 #include "c24_byte.h"
-#include "c24_control.h"
+#include "c93_block.h"
+#include "c93_byte.h"
 #include "cell_selection.h"
 #include "frm_main.h"
 #include "hex_grid.h"
 #include "image_buffer.h"
 #include "mscomm.h"
+#include "refusal.h"
 #include "state.h"
 
 namespace wrenbit {
@@ -23,8 +25,6 @@ void Set_Commands_Enabled(bool enabled) {
            &frmMain.mnuHelpContents, &frmMain.mnuHelpAbout})
     control->Set_Enabled(enabled);
 }
-
-void No_93Cxx_Engine() { Refuse_Transfer("93Cxxの転送にはまだ対応していません。"); }
 
 using Engine = void (*)();
 void Run_Engine(Engine c24, Engine c93) {
@@ -55,7 +55,7 @@ void Cmd_READ_all_Click() {
   Command_Lock();
   frmMain.sbStatusBar.Set_Panel(1, "読み出し中.....");
   Image_Create();
-  Run_Engine(C24_AllRead, No_93Cxx_Engine);
+  Run_Engine(C24_AllRead, C93_AllRead);
   if (LinkError == 0) Grid_Refill();
   Command_Unlock();
 }
@@ -63,20 +63,20 @@ void Cmd_READ_all_Click() {
 void Cmd_WRITE_all_Click() {
   Command_Lock();
   frmMain.sbStatusBar.Set_Panel(1, "書き込み中.....");
-  Run_Engine(C24_AllWrite, No_93Cxx_Engine);
+  Run_Engine(C24_AllWrite, C93_AllWrite);
   MSFGrid1_Click();
   Command_Unlock();
 }
 
 void Cmd_READ_single_Click() {
   Command_Lock();
-  Run_Engine(C24_ByteRead, No_93Cxx_Engine);
+  Run_Engine(C24_ByteRead, C93_ByteRead);
   Command_Unlock();
 }
 
 void Cmd_WRITE_single_Click() {
   Command_Lock();
-  Run_Engine(C24_ByteWrite, No_93Cxx_Engine);
+  Run_Engine(C24_ByteWrite, C93_ByteWrite);
   Command_Unlock();
 }
 

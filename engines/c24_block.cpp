@@ -1,29 +1,24 @@
 #include "c24_block.h"
 
-#include <algorithm>
-
 #include "accelerators.h"
-#include "block_progress.h"
+#include "block_transfer.h"
 #include "c24_bus.h"
 #include "c24_control.h"
-#include "frm_main.h"
 #include "handshake.h"
 #include "link.h"
 #include "platform.h"
+#include "refusal.h"
+#include "state.h"
 
 namespace wrenbit {
 namespace {
 
-// Handshake and block size. False: nothing has touched the bus.
+// False: nothing has touched the bus.
 bool Begin() {
   TransferStart = Timer();
   Read_Version();
-  if (LinkError) return false;
-  if (MemSize <= AccessSize) frmMain.CmbSize.Set_ListIndex(MemSize - 4);
-  return true;
+  return !LinkError;
 }
-
-std::int32_t Last_Address() { return (1 << std::min(MemSize, AccessSize)) - 1; }
 
 void Send_Byte(std::uint8_t byte) { Has_Accelerators() ? Link_SendByte24(byte) : C24_Byte_By_Bits(byte); }
 
@@ -66,7 +61,7 @@ std::int32_t Write_Page(std::int32_t address, std::int32_t last, Block_Progress&
 
 void C24_AllRead() {
   if (C24_Refused() || !Begin()) return;
-  const std::int32_t last = Last_Address();
+  const std::int32_t last = Clamp_Block();
   Block_Progress progress(last);
 
   C24_Power_on();
@@ -89,7 +84,7 @@ void C24_AllWrite() {
   if (C24_Refused()) return;
   if (PageSize < 1) return Refuse_Transfer("デバイスのページサイズが正しくありません。");
   if (!Begin()) return;
-  const std::int32_t last = Last_Address();
+  const std::int32_t last = Clamp_Block();
   Block_Progress progress(last);
 
   C24_Power_on();

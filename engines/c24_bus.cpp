@@ -3,6 +3,7 @@
 #include "accelerators.h"
 #include "frm_main.h"
 #include "link.h"
+#include "power_sequence.h"
 #include "state.h"
 
 namespace wrenbit {
@@ -19,38 +20,13 @@ void Write_A(std::uint8_t value) { Link_WritePortA(PortMirror.OutA = value); }
 void Dir_A(std::uint8_t value) { Link_SetDirA(PortMirror.DirA = value); }
 void Read_A() { PortMirror.InA = Link_ReadPortA(); }
 
-struct Port_Values {
-  std::uint8_t A, B, C;
-};
-
-// What a power sequence gives to the latches and directions, and what the pins must then read.
-struct Power_Sequence {
-  Port_Values Out, Dir, Expected;
-};
 constexpr Port_Values kWatched{.A = kLines, .B = 0x5C, .C = 0x88};
-constexpr Power_Sequence kOn{
-    .Out = {kLines, 0x40, 0x80}, .Dir = {0xF8, 0xA3, 0x77}, .Expected = {kLines, 0x40, 0x80}};
-constexpr Power_Sequence kOff{.Out = {0, 0, 0x80}, .Dir = {0xFF, 0xFF, 0x7F}, .Expected = {0, 0, 0x80}};
-
-// Latches first: a pin that turns into an output already has its level.
-void Power(const Power_Sequence& to) {
-  Write_A(to.Out.A);
-  Link_WritePortB(PortMirror.OutB = to.Out.B);
-  Link_WritePortC(PortMirror.OutC = to.Out.C);
-  Dir_A(to.Dir.A);
-  Link_SetDirB(PortMirror.DirB = to.Dir.B);
-  Link_SetDirC(PortMirror.DirC = to.Dir.C);
-
-  Read_A();
-  if ((PortMirror.InA & kWatched.A) != to.Expected.A || LinkError)
-    return Message("24Cxx Power on PortA error");
-  PortMirror.InB = Link_ReadPortB();
-  if ((PortMirror.InB & kWatched.B) != to.Expected.B || LinkError)
-    return Message("24Cxx Power on PortB error");
-  PortMirror.InC = Link_ReadPortC();
-  if ((PortMirror.InC & kWatched.C) != to.Expected.C || LinkError)
-    return Message("24Cxx Power on PortC error");
-}
+constexpr Power_Sequence kOn{.Out = {kLines, 0x40, 0x80},
+                             .Dir = {0xF8, 0xA3, 0x77},
+                             .Watched = kWatched,
+                             .Expected = {kLines, 0x40, 0x80}};
+constexpr Power_Sequence kOff{
+    .Out = {0, 0, 0x80}, .Dir = {0xFF, 0xFF, 0x7F}, .Watched = kWatched, .Expected = {0, 0, 0x80}};
 
 // Drives the lines and looks whether they followed.
 bool Step(std::uint8_t levels, const char* error) {
@@ -85,8 +61,8 @@ void Clock_In_End() {
 
 }  // namespace
 
-void C24_Power_on() { Power(kOn); }
-void C24_Power_off() { Power(kOff); }
+void C24_Power_on() { Run_Power_Sequence(kOn, "24Cxx"); }
+void C24_Power_off() { Run_Power_Sequence(kOff, "24Cxx"); }
 
 void C24_StartBit() {
   if (!Step(kLines, "24Cxx StartBit PortA error1")) return;

@@ -1,28 +1,18 @@
 #include "c24_byte.h"
 
-#include "byte_texts.h"
+#include "byte_transfer.h"
 #include "c24_bus.h"
 #include "c24_control.h"
 #include "cell_address.h"
-#include "cell_selection.h"
-#include "frm_main.h"
 #include "handshake.h"
 #include "state.h"
 
 namespace wrenbit {
 namespace {
 
-constexpr const char* kFinished = "Finsh";
-
-// Moves the cell out of the ASCII column, refuses what has no byte, and does the handshake. False: nothing
-// has touched the bus.
+// Refusals and handshake. False: nothing has touched the bus.
 bool Begin() {
-  if (frmMain.MSFGrid1.Col() == kAsciiCol) frmMain.MSFGrid1.Set_Col(kLastByteCol);
-  if (C24_Refused()) return false;
-  if (!Current_Cell_In_Image()) {
-    Refuse_Transfer("アドレスが選択されていません。");
-    return false;
-  }
+  if (C24_Refused() || !Byte_Cell_Ready()) return false;
   Read_Version();
   return !LinkError;
 }
@@ -51,12 +41,7 @@ void C24_ByteRead() {
   C24_Bit1();  // No acknowledge for the last byte.
   C24_StopBit();
   C24_Power_off();
-  if (LinkError) return;
-
-  ImageBuffer[static_cast<std::size_t>(Current_Address())] = byte;
-  frmMain.MSFGrid1.Set_Text(Byte_Cell(byte));
-  MSFGrid1_Click();
-  frmMain.sbStatusBar.Set_Panel(1, kFinished);
+  Finish_Byte_Read(byte);
 }
 
 void C24_ByteWrite() {
@@ -67,7 +52,7 @@ void C24_ByteWrite() {
   Send_Checked(ImageBuffer[static_cast<std::size_t>(address)]);
   C24_StopBit();
   C24_Power_off();
-  if (!LinkError) frmMain.sbStatusBar.Set_Panel(1, kFinished);
+  Finish_Byte_Write();
 }
 
 }  // namespace wrenbit

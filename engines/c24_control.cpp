@@ -2,6 +2,7 @@
 
 #include "c24_bus.h"
 #include "frm_main.h"
+#include "refusal.h"
 #include "state.h"
 
 namespace wrenbit {
@@ -26,11 +27,6 @@ void Start_Write(std::int32_t address, void (*send)(std::uint8_t byte)) {
 
 void ACK_Check() {
   if (!C24_ACK()) frmMain.sbStatusBar.Set_Panel(1, "24Cxx ACK error");
-}
-
-void Refuse_Transfer(const char* why) {
-  frmMain.sbStatusBar.Set_Panel(1, why);
-  LinkError = 1;
 }
 
 bool C24_Refused() {

@@ -26,11 +26,6 @@ void Start_Write(std::int32_t address, void (*send)(std::uint8_t byte));
 // C24_ACK, with its text in panel 1 when the chip did not acknowledge. Does not stop the transfer.
 void ACK_Check();
 
-inline constexpr const char* kWrongSize = "デバイスのメモリサイズが正しくありません。";
-
-// Tells in panel 1 why this device's transfers cannot run, and sets LinkError. Nothing has touched the port.
-void Refuse_Transfer(const char* why);
-
 // Refuses a device with more bytes than its address form can reach. True when it did.
 bool C24_Refused();
 

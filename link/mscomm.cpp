@@ -51,7 +51,7 @@ void MSComm::Learn_Pace(std::size_t bytes, double seconds) {
 
 void MSComm::Await_Room(std::size_t bytes) {
   const double room = (static_cast<double>(kOutBufferSize) - static_cast<double>(bytes)) * byte_time;
-  while (open && !Lost() && wire_free - Timer() > room) ThePlatform->Await_Event(wire_free - Timer() - room);
+  while (open && wire_free - Timer() > room && !Lost()) ThePlatform->Await_Event(wire_free - Timer() - room);
 }
 
 }  // namespace wrenbit

@@ -1,5 +1,6 @@
-#include "block_progress.h"
+#include "block_transfer.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "frm_main.h"
@@ -7,6 +8,16 @@
 #include "state.h"
 
 namespace wrenbit {
+namespace {
+
+constexpr std::int32_t kSmallestBlock = 4;  // As a power of two: the first entry of CmbSize.
+
+}  // namespace
+
+std::int32_t Clamp_Block() {
+  if (MemSize <= AccessSize) frmMain.CmbSize.Set_ListIndex(MemSize - kSmallestBlock);
+  return (1 << std::min(MemSize, AccessSize)) - 1;
+}
 
 std::int32_t Percentage(std::int32_t address, std::int32_t last) {
   const std::int64_t hundredfold = std::int64_t{address} * 100;

@@ -1,10 +1,15 @@
-// What a block transfer tells of its course: the percentage in panel 3, the seconds in panel 1.
+// What the block transfers of both families share: the block's size, the percentage in panel 3, the seconds
+// in panel 1.
 #pragma once
 
 #include <cstdint>
 #include <string>
 
 namespace wrenbit {
+
+// The block's last chip address: 2^min(MemSize, AccessSize) - 1. A block size that is not below the chip's is
+// set to the chip's for good, in CmbSize and its stored setting.
+std::int32_t Clamp_Block();
 
 // address x 100 / last, rounded to the nearest whole number, ties to even. last is at least 1.
 std::int32_t Percentage(std::int32_t address, std::int32_t last);

@@ -1,0 +1,36 @@
+#include "byte_transfer.h"
+
+#include "byte_texts.h"
+#include "cell_address.h"
+#include "cell_selection.h"
+#include "frm_main.h"
+#include "refusal.h"
+#include "state.h"
+
+namespace wrenbit {
+namespace {
+
+void Tell_End() { frmMain.sbStatusBar.Set_Panel(1, "Finsh"); }
+
+}  // namespace
+
+bool Byte_Cell_Ready() {
+  if (frmMain.MSFGrid1.Col() == kAsciiCol) frmMain.MSFGrid1.Set_Col(kLastByteCol);
+  if (Current_Cell_In_Image()) return true;
+  Refuse_Transfer("アドレスが選択されていません。");
+  return false;
+}
+
+void Finish_Byte_Read(std::uint8_t byte) {
+  if (LinkError) return;
+  ImageBuffer[static_cast<std::size_t>(Current_Address())] = byte;
+  frmMain.MSFGrid1.Set_Text(Byte_Cell(byte));
+  MSFGrid1_Click();
+  Tell_End();
+}
+
+void Finish_Byte_Write() {
+  if (!LinkError) Tell_End();
+}
+
+}  // namespace wrenbit

@@ -1,0 +1,37 @@
+// The three-wire bus of a 93Cxx chip, clocked by the PC through the board's ports.
+//
+//   pin            mask  role                        on          off
+//   port A 1,2     0x06  held low                    out, low    in, low
+//   port B bit 2   0x04  DO, data from the chip      in          in, low
+//   port B bit 3   0x08  DI, data to the chip        out, low    in, low
+//   port B bit 4   0x10  SK, the clock               out, low    in, low
+//   port B bit 6   0x40  supply of the socket        out, high   in, low
+//   port C bit 3   0x08  CS, chip select             out, low    in, low
+//   port C bit 7   0x80  held high                   out, high   out, high
+//
+// All operations are port commands at every firmware version; from 5.0 on the block transfers send whole
+// fields in their place. A failure is a text in panel 1 and nothing more: none sets LinkError, which only a
+// missing reply does, and the bus has no acknowledge.
+#pragma once
+
+#include <cstdint>
+
+namespace wrenbit {
+
+// Supply and lines up, or down with all lines released. The first read-back that is not as driven, or that
+// finds LinkError set, ends the reading back; all is driven before. DO is the chip's while the supply is on.
+void C93_Power_on();
+void C93_Power_off();
+
+void C93_CS_High();
+void C93_CS_Low();
+
+// DI set while SK is low, then one pulse of SK, which ends low. Nothing is read back.
+void C93_Bit1();
+void C93_Bit0();
+
+// One bit from the chip, 1 or 0, sampled with SK high and DI low. When supply, SK or DI are not as driven, or
+// LinkError is set, the bit is 0 and SK stays high.
+std::int32_t C93_DATA();
+
+}  // namespace wrenbit

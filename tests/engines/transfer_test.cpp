@@ -1,0 +1,114 @@
+// What the transfers of both families leave behind beside the chip's bytes: the rest of a block, panels, cell
+// and edit panel.
+#include "chip_bench.h"
+#include "faulty_board.h"
+#include "transfer_commands.h"
+
+namespace wrenbit {
+namespace {
+
+TEST(Block_Transfer, ABlockSmallerThanTheChipLeavesTheRestAlone) {
+  for (const char* chip : {"24C64", "AT93C66"}) {
+    SCOPED_TRACE(chip);
+    Chip_Bench bench(chip, "5.00");
+    bench.Fill_Chip(5);
+    bench.Fill_Image(6);
+    frmMain.CmbSize.Set_ListIndex(2);
+    Bytes expected = bench.Chip_Contents();
+    std::copy_n(ImageBuffer.begin(), 64, expected.begin());
+    Cmd_WRITE_all_Click();
+    EXPECT_EQ(bench.Chip_Contents(), expected);
+    EXPECT_EQ(frmMain.CmbSize.ListIndex(), 2);
+
+    Cmd_READ_all_Click();
+    std::fill(expected.begin() + 64, expected.end(), std::uint8_t{0xFF});
+    EXPECT_EQ(ImageBuffer, expected);
+  }
+}
+
+TEST(Block_Transfer, APageThatDoesNotDivideTheBlockEndsAtItsLastByte) {
+  Chip_Bench bench("24C64", "5.00");
+  bench.Fill_Image(7);
+  const Bytes image = ImageBuffer;
+  PageSize = 24;
+  AddressMode = 2;
+  Cmd_WRITE_all_Click();
+  EXPECT_EQ(LinkError, 0);
+  EXPECT_EQ(ImageBuffer, image);
+}
+
+TEST(Block_Transfer, ThePercentageMovesAtEachWholeNumber) {
+  for (const auto& [chip, run] : {std::pair{"24C00", &Cmd_READ_all_Click},
+                                  {"AT93C46", &Cmd_READ_all_Click},
+                                  {"AT93C46", &Cmd_WRITE_all_Click}}) {
+    SCOPED_TRACE(chip);
+    Chip_Bench bench(chip, "5.00");
+    frmMain.CmbSize.Set_ListIndex(0);
+    std::vector<std::string> shown{Panel(3)};
+    bench.On_Yield = [&] {
+      if (Panel(3) != shown.back()) shown.push_back(Panel(3));
+    };
+    run();
+    EXPECT_EQ(shown, (std::vector<std::string>{"アドレス:0", "7%", "13%", "20%", "27%", "33%", "40%", "47%",
+                                               "53%", "60%", "67%", "73%", "80%", "87%", "93%", "100%"}));
+    EXPECT_EQ(Panel(3), "アドレス:0") << "the address is told again";
+  }
+}
+
+TEST(Block_Transfer, WholeSecondsAreRoundedDown) {
+  Chip_Bench bench("24C00", "5.00");
+  bool passed = false;
+  bench.On_Yield = [&] {
+    if (!passed) bench.Pass(11.5);
+    passed = true;
+  };
+  Cmd_WRITE_all_Click();
+  EXPECT_EQ(Panel(1), "書き込み終了。 (12sec)");
+}
+
+TEST(Byte_Transfer, TheCellIsUpToDateAfterAReadAndTheChecksumIsNot) {
+  for (const char* chip : {"24C02", "AT93C46"}) {
+    SCOPED_TRACE(chip);
+    Chip_Bench bench(chip, "4.90");
+    const std::string checksum = frmMain.LblCheckSUM.Caption();
+    bench.Cells->Write(31, 0x0A);
+    Select_Address(31);
+    Cmd_READ_single_Click();
+    EXPECT_EQ(frmMain.MSFGrid1.Text(), "0x0A");
+    EXPECT_EQ(frmMain.Text_modify_hex.Text(), "0A");
+    EXPECT_EQ(frmMain.LblCheckSUM.Caption(), checksum);
+  }
+}
+
+TEST(Byte_Transfer, TheThreeWireWriteBringsTheEditPanelUpToDateWhateverCameOfIt) {
+  const struct {
+    const char* Chip;
+    std::uint64_t SilentFrom;
+    const char* Shown;
+  } cases[] = {{"24C02", 0, "FF"}, {"AT93C46", 0, "5A"}, {"AT93C46", 10, "5A"}};
+  for (const auto& c : cases) {
+    SCOPED_TRACE(std::string(c.Chip) + " " + std::to_string(c.SilentFrom));
+    Chip_Bench bench(c.Chip, "5.00");
+    board::Faulty_Board board(bench.Programmer, {.SilentFrom = c.SilentFrom});
+    bench.Board = &board;
+    ImageBuffer[0] = 0x5A;
+    Cmd_WRITE_single_Click();
+    EXPECT_EQ(LinkError, c.SilentFrom ? 1 : 0);
+    EXPECT_EQ(frmMain.Text_modify_hex.Text(), c.Shown);
+  }
+}
+
+TEST(Byte_Transfer, TheAsciiColumnStandsForTheLastByteOfItsRow) {
+  Chip_Bench bench("24C02", "5.00");
+  ImageBuffer[255] = 0x42;
+  frmMain.MSFGrid1.Set_Row(16);
+  frmMain.MSFGrid1.Set_Col(17);
+  Cmd_WRITE_single_Click();
+  EXPECT_EQ(bench.Chip_Contents()[255], 0x42);
+  Cmd_READ_single_Click();
+  EXPECT_EQ(frmMain.MSFGrid1.Col(), 16);
+  EXPECT_EQ(frmMain.MSFGrid1.Cell(16, 17), std::string(16 * 3, ' ').replace(0, 48, "････････････････"));
+}
+
+}  // namespace
+}  // namespace wrenbit
