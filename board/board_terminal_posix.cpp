@@ -24,22 +24,31 @@ using Nanoseconds = std::chrono::nanoseconds;
 
 constexpr std::size_t kMostWaiting = 4096;  // Replies in bytes, beyond those in the terminal itself.
 
-volatile sig_atomic_t StopAsked = 0;
+constexpr int kStopSignals[] = {SIGINT, SIGTERM, SIGHUP};
+volatile sig_atomic_t StopCaught = 0;
 sigset_t MaskWhileWaiting;  // Signals get through in ppoll and nowhere else, so no system call is cut short.
 
-void On_Stop_Signal(int) { StopAsked = 1; }
+void On_Stop_Signal(int) { StopCaught = 1; }
+
+// A wait that finds a file ready lets no signal through; it stays pending.
+bool Stop_Asked() {
+  sigset_t pending;
+  sigpending(&pending);
+  return StopCaught ||
+         std::ranges::any_of(kStopSignals, [&](int number) { return sigismember(&pending, number) == 1; });
+}
 
 void Hold_Stop_Signals() {
   struct sigaction action {};
   action.sa_handler = On_Stop_Signal;
   sigset_t held;
   sigemptyset(&held);
-  for (const int number : {SIGINT, SIGTERM, SIGHUP}) {
+  for (const int number : kStopSignals) {
     sigaction(number, &action, nullptr);
     sigaddset(&held, number);
   }
   sigprocmask(SIG_BLOCK, &held, &MaskWhileWaiting);
-  for (const int number : {SIGINT, SIGTERM, SIGHUP}) sigdelset(&MaskWhileWaiting, number);
+  for (const int number : kStopSignals) sigdelset(&MaskWhileWaiting, number);
   signal(SIGPIPE, SIG_IGN);  // Whoever reads our output may go; the link must still be removed.
 }
 
@@ -115,7 +124,7 @@ void Board_Terminal::Serve(Wire_End& end, Pace pace, Typed_Lines& typed,
                            const std::function<void(const std::string& line)>& told) {
   Wire_Schedule wire(pace);
   std::deque<Waiting> replies;
-  while (!StopAsked) {
+  while (!Stop_Asked()) {
     pollfd files[] = {{.fd = *Master, .events = POLLIN, .revents = 0},
                       {.fd = *Closings, .events = POLLIN, .revents = 0},
                       {.fd = typed.Number(), .events = POLLIN, .revents = 0}};

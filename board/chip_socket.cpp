@@ -5,6 +5,7 @@
 namespace board {
 
 void Chip_Socket::Insert(std::unique_ptr<Chip> chip) {
+  if (Seated) Seated->Sense({}, Now);  // Its supply goes with it.
   Seated = std::move(chip);
   if (Seated) Seated->Sense(Current, Now);
   Settle();

@@ -28,17 +28,16 @@ std::vector<std::string> Chip_Names() {
 const Two_Wire_Part* Find_Two_Wire(std::string_view name) { return Find(Two_Wire_Parts(), name); }
 const Three_Wire_Part* Find_Three_Wire(std::string_view name) { return Find(Three_Wire_Parts(), name); }
 
-std::optional<std::size_t> Chip_Size(std::string_view name) {
+std::size_t Chip_Size(std::string_view name) {
   if (const auto* part = Find_Two_Wire(name)) return part->Bytes;
   if (const auto* part = Find_Three_Wire(name)) return part->Bytes;
-  return std::nullopt;
+  throw std::invalid_argument("no chip has the name " + std::string(name));
 }
 
 std::unique_ptr<Chip> Make_Chip(std::string_view name, Cell_Store& store) {
-  const auto size = Chip_Size(name);
-  if (!size) throw std::invalid_argument("no chip has the name " + std::string(name));
-  if (store.Cells().size() != *size) {
-    throw std::invalid_argument(std::string(name) + " has " + std::to_string(*size) + " bytes, its store " +
+  const std::size_t size = Chip_Size(name);
+  if (store.Cells().size() != size) {
+    throw std::invalid_argument(std::string(name) + " has " + std::to_string(size) + " bytes, its store " +
                                 std::to_string(store.Cells().size()));
   }
   if (const auto* part = Find_Two_Wire(name)) return std::make_unique<Two_Wire_Chip>(*part, store);

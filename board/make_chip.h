@@ -2,7 +2,6 @@
 #pragma once
 
 #include <memory>
-#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -21,8 +20,8 @@ std::vector<std::string> Chip_Names();
 const Two_Wire_Part* Find_Two_Wire(std::string_view name);
 const Three_Wire_Part* Find_Three_Wire(std::string_view name);
 
-// Bytes; nothing when no part has that very name.
-std::optional<std::size_t> Chip_Size(std::string_view name);
+// Bytes. Throws std::invalid_argument when no part has that very name.
+std::size_t Chip_Size(std::string_view name);
 
 // A chip over `store`, which must have its size and outlive it. Throws std::invalid_argument for an unknown
 // name and for a store of another size.

@@ -10,8 +10,9 @@
 //   WRAL            1      00    0 1 and any      come in
 //   EWDS            1      00    0 0 and any
 //
-// All but READ happen at the fall of CS, behind their last bit and no other. Source: Atmel's data sheets of
-// AT93C46, AT93C66 and AT93C86.
+// All but READ happen at the fall of CS. Sources: Atmel's data sheets of AT93C46, AT93C66 and AT93C86. Where
+// they are silent the model is strict: a frame with a bit too many does nothing, nor does one that begins in
+// the write cycle.
 #include "three_wire_chip.h"
 
 #include <utility>
@@ -30,7 +31,7 @@ void Three_Wire_Chip::Sense(const Levels& levels, double now) {
   }
   if (!powered_before) return;  // Levels that came with the supply are no edges.
 
-  if (!cs_before && Cs) On_Select();
+  if (!cs_before && Cs) State = Phase::kStart;
   // Data that change with the clock's edge have not been set up for it.
   if (Cs && !sk_before && Sk) On_Clock(di_before);
   if (cs_before && !Cs) On_Deselect();
@@ -44,16 +45,16 @@ Drive Three_Wire_Chip::Drives_Line(Line line, double now) const {
   return Out ? Drive::kHigh : Drive::kLow;
 }
 
-// A chip in its write cycle hears no instruction, to the end of the frame.
-void Three_Wire_Chip::On_Select() { State = Now < BusyUntil ? Phase::kDeaf : Phase::kStart; }
+//
 
 void Three_Wire_Chip::On_Clock(bool bit) {
   switch (State) {
     case Phase::kDeaf:  // Nothing counts until CS falls.
       break;
 
-    case Phase::kStart:  // Zeros may come before the start bit.
-      if (!bit) break;
+    case Phase::kStart:  // Zeros may come before the start bit. A clock in the write cycle spoils the frame.
+      if (Now < BusyUntil) State = Phase::kDeaf;
+      if (!bit || State == Phase::kDeaf) break;
       ShowsStatus = false;
       State = Phase::kOpcode;
       break;

@@ -21,7 +21,6 @@ class Three_Wire_Chip : public Chip {
   enum class Phase : std::uint8_t { kDeaf, kStart, kOpcode, kAddress, kData, kWhole, kSend };
   enum class Instruction : std::uint8_t { kRead, kWrite, kErase, kEwen, kEwds, kEral, kWral };
 
-  void On_Select();
   void On_Clock(bool bit);
   void On_Deselect();
   void On_Supply_Lost();

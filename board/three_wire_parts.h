@@ -11,7 +11,7 @@ struct Three_Wire_Part {
   std::string_view Name;
   std::size_t Bytes;  // A power of two.
   int AddressBits;    // Behind the opcode of every instruction.
-  double WriteCycle;  // Seconds; the model always takes them all.
+  double WriteCycle;  // Seconds as a rule; the model always takes them all. The sheets allow 10 ms.
 };
 
 // In order of size.

@@ -1,6 +1,7 @@
 // tolvex-sim: a programmer board with a chip in its socket, on a serial port that is none.
 #include <CLI/CLI.hpp>
 #include <algorithm>
+#include <cctype>
 #include <exception>
 #include <iostream>
 #include <memory>
@@ -62,21 +63,22 @@ class Chip_Seat {
   // was in the socket is still there.
   void Seat(const std::string& chip, const std::string& image) {
     if (chip == kNoChip) {
+      if (!image.empty()) throw std::invalid_argument("no chip has no image");
       Programmer.Insert(nullptr);
       Cells.reset();
       Content = "no chip";
       return;
     }
-    const auto size = board::Chip_Size(chip);
-    if (!size) throw std::invalid_argument("no chip has the name " + chip);
+    const std::size_t size = board::Chip_Size(chip);
     std::unique_ptr<board::Cell_Store> cells;
     if (image.empty())
-      cells = std::make_unique<board::Cell_Store>(*size);
+      cells = std::make_unique<board::Cell_Store>(size);
     else
-      cells = std::make_unique<board::Image_Store>(image, *size);
+      cells = std::make_unique<board::Image_Store>(image, size);
     Programmer.Insert(board::Make_Chip(chip, *cells));
     Cells = std::move(cells);
-    Content = chip + " (" + std::to_string(*size) + " bytes)";
+    Content = chip + " (" + std::to_string(size) + " bytes, " +
+              (image.empty() ? "erased, kept nowhere" : "kept in " + image) + ")";
   }
 
   const std::string& Text() const { return Content; }
@@ -87,25 +89,31 @@ class Chip_Seat {
   std::string Content;
 };
 
-std::string Between_Blanks(const std::string& text) {
+// Without blanks around it, and without the quotes that a shell would want.
+std::string Bare(const std::string& text) {
   const char* const blanks = " \t\r";
   const auto begin = text.find_first_not_of(blanks);
-  return begin == std::string::npos ? "" : text.substr(begin, text.find_last_not_of(blanks) - begin + 1);
+  if (begin == std::string::npos) return "";
+  const std::string bare = text.substr(begin, text.find_last_not_of(blanks) - begin + 1);
+  const bool quoted = bare.size() > 1 && bare.front() == bare.back() && (bare[0] == '"' || bare[0] == '\'');
+  return quoted ? bare.substr(1, bare.size() - 2) : bare;
 }
 
 // The name as the parts have it, whatever case was typed.
 std::string Chip_Named(const std::string& typed) {
-  for (const std::string& name : Chips_And_None())
-    if (CLI::detail::to_lower(name) == CLI::detail::to_lower(typed)) return name;
-  return typed;
+  const auto same = [](unsigned char a, unsigned char b) { return std::toupper(a) == std::toupper(b); };
+  const auto names = Chips_And_None();
+  const auto found =
+      std::ranges::find_if(names, [&](const auto& name) { return std::ranges::equal(name, typed, same); });
+  return found == names.end() ? typed : *found;
 }
 
 // A line is a chip and, behind a blank, the whole path of its image.
 void Swap(Chip_Seat& seat, const std::string& typed) {
-  const std::string line = Between_Blanks(typed);
+  const std::string line = Bare(typed);
   const auto chip_end = std::min(line.find_first_of(" \t"), line.size());
   try {
-    if (!line.empty()) seat.Seat(Chip_Named(line.substr(0, chip_end)), Between_Blanks(line.substr(chip_end)));
+    if (!line.empty()) seat.Seat(Chip_Named(line.substr(0, chip_end)), Bare(line.substr(chip_end)));
   } catch (const std::exception& error) {
     std::cout << "tolvex-sim: " << error.what() << '\n';
   }

@@ -14,7 +14,7 @@ namespace board {
 class Two_Wire_Chip : public Chip {
  public:
   // Both must outlive the chip.
-  Two_Wire_Chip(const Two_Wire_Part& geometry, Cell_Store& cells) : Part(geometry), Cells(cells) {}
+  Two_Wire_Chip(const Two_Wire_Part& part, Cell_Store& cells) : Part(part), Cells(cells) {}
 
   void Sense(const Levels& levels, double now) override;
   Drive Drives_Line(Line line, double now) const override;

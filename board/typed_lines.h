@@ -15,7 +15,8 @@ class Typed_Lines {
   // To be polled for reading; -1 when no line will come any more.
   int Number() const { return File; }
 
-  // What has come, line by line, without their ends; reads once, which waits unless the poll said so.
+  // What has come, line by line, without their ends; reads once, which waits unless the poll said so. What
+  // exceeds 4096 characters of a line is dropped. The last line needs no end.
   std::vector<std::string> Take();
 
  private:

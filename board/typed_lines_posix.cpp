@@ -4,10 +4,17 @@
 
 #include <array>
 #include <cerrno>
+#include <utility>
 
 #include "typed_lines.h"
 
 namespace board {
+
+namespace {
+
+constexpr std::size_t kLongest = 4096;
+
+}  // namespace
 
 Typed_Lines::Typed_Lines() : File(fcntl(STDIN_FILENO, F_GETFD) < 0 ? -1 : STDIN_FILENO) {
   signal(SIGTTIN, SIG_IGN);
@@ -17,15 +24,17 @@ std::vector<std::string> Typed_Lines::Take() {
   std::array<char, 512> bytes;
   const ssize_t got = read(File, bytes.data(), bytes.size());
   if (got < 0 && (errno == EAGAIN || errno == EINTR)) return {};
+  std::vector<std::string> lines;
   if (got <= 0) {
     File = -1;
-    return {};
+    if (!Begun.empty()) lines.push_back(std::exchange(Begun, {}));
+    return lines;
   }
-  Begun.append(bytes.data(), static_cast<std::size_t>(got));
-  std::vector<std::string> lines;
-  for (auto end = Begun.find('\n'); end != std::string::npos; end = Begun.find('\n')) {
-    lines.push_back(Begun.substr(0, end));
-    Begun.erase(0, end + 1);
+  for (std::size_t i = 0; i < static_cast<std::size_t>(got); ++i) {
+    if (bytes[i] == '\n')
+      lines.push_back(std::exchange(Begun, {}));
+    else if (Begun.size() < kLongest)
+      Begun += bytes[i];
   }
   return lines;
 }

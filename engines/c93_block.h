@@ -12,7 +12,7 @@ namespace wrenbit {
 void C93_AllRead();
 
 // On failure the chip is partly written, and the image as it was. Nothing is read back. The chip has for each
-// write cycle what the wire takes to the next instruction: 8 ms from firmware 5.0 on, 13 ms below.
+// write cycle what a 9600-baud wire takes to the next instruction: 8 ms from firmware 5.0 on, 13 ms below.
 void C93_AllWrite();
 
 }  // namespace wrenbit

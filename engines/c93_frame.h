@@ -28,8 +28,8 @@ void Start_Instruction(Opcode opcode, std::int32_t address, void (*send)(int cou
 // EWEN, bit by bit, from CS high to CS low: the chip takes writes until its supply goes.
 void Enable_Write();
 
-// Refuses a device whose address does not fit the instruction, or whose instruction does not reach all of its
-// bytes. True when it did.
+// Refuses, with a text in panel 1 and LinkError, a device whose address does not fit the instruction, or
+// whose instruction does not reach all of its bytes. True when it did.
 bool C93_Refused();
 
 }  // namespace wrenbit

@@ -117,13 +117,15 @@ void Read_Version() {
   Query();
   Sleep(50);
   DoEvents();
+  const bool first_is_complete = MSComm1.InBufferCount() >= kReplyLength;
   const double asked = Timer();
   Query();
   Await_Bytes(kReplyLength);
   if (MSComm1.InBufferCount() < kReplyLength)
     return Tell_No_Answer(port.Text, MSComm1.Lost() ? Port_Fault::Gone : Port_Fault::None);
 
-  MSComm1.Learn_Pace(1 + kReplyLength, Timer() - asked);
+  // The first answer, had it come late, could pass for a fast second one.
+  if (first_is_complete) MSComm1.Learn_Pace(1 + kReplyLength, Timer() - asked);
   const std::vector<std::uint8_t> reply = MSComm1.Input();
   const std::string text(reply.begin(), reply.begin() + kTextLength);
   if (!text.starts_with(kWord)) {

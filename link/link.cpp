@@ -11,6 +11,7 @@ namespace wrenbit {
 namespace {
 
 void Send(std::initializer_list<std::uint8_t> bytes) {
+  MSComm1.Await_Room(bytes.size());
   TxBytes = bytes;
   MSComm1.Clear_InBuffer();
   MSComm1.Output(TxBytes);

@@ -38,7 +38,6 @@ void MSComm::Clear_InBuffer() {
 std::vector<std::uint8_t> MSComm::Input() { return open ? backend->Take() : std::vector<std::uint8_t>(); }
 
 void MSComm::Output(std::span<const std::uint8_t> bytes) {
-  Await_Room(bytes.size());
   if (!open) return;
   wire_free = std::max(wire_free, Timer()) + static_cast<double>(bytes.size()) * byte_time;
   backend->Write(bytes);
@@ -51,7 +50,9 @@ void MSComm::Learn_Pace(std::size_t bytes, double seconds) {
 
 void MSComm::Await_Room(std::size_t bytes) {
   const double room = (static_cast<double>(kOutBufferSize) - static_cast<double>(bytes)) * byte_time;
-  while (open && wire_free - Timer() > room && !Lost()) ThePlatform->Await_Event(wire_free - Timer() - room);
+  for (double ahead = wire_free - room - Timer(); ahead > 0 && open && !Lost();
+       ahead = wire_free - room - Timer())
+    ThePlatform->Await_Event(ahead);
 }
 
 }  // namespace wrenbit

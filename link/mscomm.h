@@ -60,19 +60,20 @@ class MSComm {
   std::size_t InBufferCount() { return open ? backend->Waiting() : 0; }
   void Clear_InBuffer();
   std::vector<std::uint8_t> Input();
-  // Sends in one piece. Runs at most 512 bytes ahead of the wire: what would be more rests here before, with
-  // events delivered. A system takes thousands of bytes at once, and a read behind them would wait for its
-  // answer longer than its second; 512 bytes take half of it.
+  // In one piece.
   void Output(std::span<const std::uint8_t> bytes);
 
-  // Told how long a query and its answer, so many bytes in all, have taken since the port was opened. Where
-  // that is far less than 9600 baud takes, there is no such wire (a board with USB of its own, a virtual
-  // one), and Output goes by the time that was seen.
+  // Rests, with events delivered, until `bytes` more would run at most 512 bytes ahead of the wire. A system
+  // takes thousands of bytes at once, and a read behind them would wait for its answer longer than its
+  // second; 512 bytes take half of it. Returns at once on a port that is closed or lost.
+  void Await_Room(std::size_t bytes);
+
+  // A query and its answer, so many bytes in all, took so long on the open port. Where that is far less than
+  // 9600 baud takes, there is no such wire (a virtual board), and Await_Room goes by what was seen until the
+  // next open.
   void Learn_Pace(std::size_t bytes, double seconds);
 
  private:
-  void Await_Room(std::size_t bytes);
-
   Serial_Backend* backend = nullptr;
   bool open = false;
   double byte_time = 0;  // Seconds that a byte takes on the wire.

@@ -7,6 +7,7 @@
 #include <QThread>
 #include <QTimer>
 #include <QUrl>
+#include <algorithm>
 #include <cmath>
 
 namespace wrenbit {
@@ -53,7 +54,7 @@ void Qt_Platform::Await_Event(double seconds) {
   QTimer limit;
   limit.setTimerType(Qt::PreciseTimer);
   limit.setSingleShot(true);
-  limit.start(static_cast<int>(std::ceil(seconds * 1000)));
+  limit.start(std::max(0, static_cast<int>(std::ceil(seconds * 1000))));
   QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
 }
 

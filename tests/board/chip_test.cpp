@@ -217,30 +217,45 @@ TEST(Three_Wire_Chip, Obeys_Each_Instruction_Of_Its_Data_Sheet) {
     }
 }
 
-TEST(Three_Wire_Chip, Writes_Nothing_Unless_The_Frame_Is_Whole) {
+TEST(Three_Wire_Chip, Does_Nothing_Unless_The_Frame_Is_Whole) {
   Three_Wire_Bench on(*board::Find_Three_Wire("AT93C46"));
   const Bytes cells(on.Store.Cells().begin(), on.Store.Cells().end());
   on.Frame(on.Extended(3));
-  for (const char* data : {"", "0101101", "010110100"}) {
-    on.Frame("101" + on.Field(5) + data);
+  const std::string write = "101" + on.Field(5);
+  for (const std::string& frame :
+       {write, write + "0101101", write + "010110100", "111" + on.Field(5) + "0", on.Extended(2) + "1",
+        on.Extended(1) + "010110100", on.Extended(0) + "1", std::string("10")}) {
+    on.Frame(frame);
     on.Rest();
-    EXPECT_EQ(Bytes(on.Store.Cells().begin(), on.Store.Cells().end()), cells) << data;
+    EXPECT_EQ(Bytes(on.Store.Cells().begin(), on.Store.Cells().end()), cells) << frame;
   }
+  // Data that change with the clock have not been set up for it.
+  on.Pc.Select(true);
+  on.Pc.Say("mwb", {0x40});
+  on.Pc.Say("mwb", {0x58});
+  on.Pc.Say("mwb", {0x40});
+  on.Pc.Send_93(write.substr(1) + "01011010");
+  on.Pc.Select(false);
+  EXPECT_EQ(Bytes(on.Store.Cells().begin(), on.Store.Cells().end()), cells);
+
+  on.Frame(write + "01011010");
+  EXPECT_EQ(on.Store.Cells()[5], 0x5A) << "behind all that, and still enabled";
 }
 
 TEST(Three_Wire_Chip, Is_Deaf_Until_Its_Write_Cycle_Is_Over_And_Tells_It_On_DO) {
   board::Three_Wire_Part slow = *board::Find_Three_Wire("AT93C46");
-  slow.WriteCycle = 0.010;
+  slow.WriteCycle = 0.020;
   const struct {
-    int Idle;  // Bytes on the wire, 1.04 ms each, between the fall of CS and the 4 that raise it again.
+    int Idle;   // Bytes on the wire, 1.04 ms each, from the fall of CS on; DO is asked for 3 bytes later.
+    int Ready;  // DO then, with CS high.
     bool Hears;
-    int Ready;  // DO, asked for 3 bytes later.
-  } cases[] = {{2, false, 0}, {5, false, 4}, {6, true, 4}};
+  } cases[] = {{3, 0, false}, {4, 0, true}, {9, 4, true}};
   for (const auto& wait : cases) {
     SCOPED_TRACE(wait.Idle);
     Three_Wire_Bench on(slow);
     on.Frame(on.Extended(3));
     on.Frame("101" + on.Field(5) + "00110011");
+    EXPECT_EQ(on.Pc.Pins("b", 4), 4) << "DO is let go while CS is low";
     on.Pc.Say(std::string(static_cast<std::size_t>(wait.Idle), 'x'));
     on.Pc.Select(true);
     EXPECT_EQ(on.Pc.Pins("b", 4), wait.Ready);
@@ -251,18 +266,28 @@ TEST(Three_Wire_Chip, Is_Deaf_Until_Its_Write_Cycle_Is_Over_And_Tells_It_On_DO) 
   }
 }
 
-TEST(Three_Wire_Chip, Loses_Its_Write_Enable_With_The_Supply_And_The_Cell_It_Was_Writing) {
+TEST(Three_Wire_Chip, Loses_With_The_Supply_Its_Write_Enable_And_The_Cells_It_Was_Writing) {
   board::Three_Wire_Part slow = *board::Find_Three_Wire("AT93C46");
-  slow.WriteCycle = 0.010;
-  Three_Wire_Bench on(slow);
-  on.Frame(on.Extended(3));
-  on.Frame("101" + on.Field(5) + "00110011");
-  ASSERT_TRUE(on.Pc.Power_Off());
-  EXPECT_EQ(on.Store.Cells()[5], 0xFF) << "neither old nor new";
+  slow.WriteCycle = 0.100;
+  for (const bool pulled : {false, true}) {
+    Three_Wire_Bench on(slow);
+    on.Frame(on.Extended(3));
+    on.Frame(on.Extended(1) + "00110011");
+    EXPECT_EQ(on.Store.Cells()[127], 0x33);
+    if (pulled)
+      on.Board.Insert(nullptr);
+    else
+      on.Pc.Power_Off();
+    EXPECT_EQ(Bytes(on.Store.Cells().begin(), on.Store.Cells().end()), Bytes(128, 0xFF))
+        << "neither old nor new";
+    if (pulled) continue;
 
-  on.Pc.Power_On_93();
-  on.Frame("101" + on.Field(6) + "00110011");
-  EXPECT_EQ(on.Store.Cells()[6], 6 * 7);
+    on.Pc.Power_On_93();
+    on.Frame("101" + on.Field(6) + "00110011");
+    on.Pc.Select(true);
+    EXPECT_EQ(on.Pc.Pins("b", 4), 4) << "no cycle goes on";
+    EXPECT_EQ(on.Store.Cells()[6], 0xFF);
+  }
 }
 
 }  // namespace

@@ -112,8 +112,8 @@ TEST_F(Tolvex_Sim, Answers_Each_Time_The_Port_Is_Opened_And_Cleans_Up_At_A_Signa
   for (const int with : {SIGINT, SIGTERM, SIGHUP}) {
     Simulator simulator(Config / "", Plain);
     const std::string ready = simulator.Line();
-    EXPECT_EQ(ready, "tolvex-sim: 24C02 (256 bytes) on COM3 = " + fs::read_symlink(Link).string() +
-                         ", firmware 5.00\n");
+    EXPECT_EQ(ready, "tolvex-sim: 24C02 (256 bytes, erased, kept nowhere) on COM3 = " +
+                         fs::read_symlink(Link).string() + ", firmware 5.00\n");
     for (int i = 0; i < 3; ++i) EXPECT_EQ(Ask(), Identity);
     EXPECT_EQ(simulator.End(with), 0);
     EXPECT_EQ(simulator.Farewell, "tolvex-sim: 3 commands, 3 bytes out to the board, 51 bytes back\n");
@@ -182,16 +182,18 @@ TEST_F(Tolvex_Sim, Swaps_The_Chip_At_A_Typed_Line_And_Keeps_It_When_The_Line_Is_
   Put_Content(Config / "short.bin", "short");
   Simulator simulator(Config / "", Plain);
   simulator.Line();
+  const std::string chip = "AT93C46 (128 bytes, kept in " + image + ") in the socket";
+  const std::string small = Config / "short.bin";
   const struct {
     std::string Typed;
     std::vector<std::string> Says;
   } lines[] = {
-      {"at93c46  " + image + " \r\n", {"AT93C46 (128 bytes) in the socket"}},
-      {"24C99\n", {"no chip has the name 24C99", "AT93C46 (128 bytes) in the socket"}},
-      {"24C02 " + (Config / "short.bin") + "\n",
-       {"image " + (Config / "short.bin") + ": holds 5 bytes, the chip 256",
-        "AT93C46 (128 bytes) in the socket"}},
-      {"\n", {"AT93C46 (128 bytes) in the socket"}},
+      {"at93c46  \"" + image + "\" \r\n", {chip}},
+      {"24C99\n", {"no chip has the name 24C99", chip}},
+      {"24C02 " + small + "\n", {"image " + small + ": holds 5 bytes, the chip 256", chip}},
+      {"none " + image + "\n", {"no chip has no image", chip}},
+      {"24C02 " + std::string(100000, 'x') + "\n\n",
+       {"image " + std::string(4090, 'x') + ": File name too long", chip, chip}},
       {"NONE\n", {"no chip in the socket"}},
   };
   for (const auto& line : lines) {
@@ -199,7 +201,9 @@ TEST_F(Tolvex_Sim, Swaps_The_Chip_At_A_Typed_Line_And_Keeps_It_When_The_Line_Is_
     for (const std::string& says : line.Says) EXPECT_EQ(simulator.Line(), "tolvex-sim: " + says + "\n");
   }
   EXPECT_EQ(Content(image), std::string(128, '\xFF'));
+  simulator.Type("24C64");
   simulator.End_Typing();
+  EXPECT_EQ(simulator.Line(), "tolvex-sim: 24C64 (8192 bytes, erased, kept nowhere) in the socket\n");
   EXPECT_EQ(Ask(), Identity);
   EXPECT_EQ(simulator.End(SIGTERM), 0);
 }

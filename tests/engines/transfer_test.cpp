@@ -1,5 +1,7 @@
 // What the transfers of both families leave behind beside the chip's bytes: the rest of a block, panels, cell
 // and edit panel.
+#include <utility>
+
 #include "chip_bench.h"
 #include "faulty_board.h"
 #include "transfer_commands.h"
@@ -55,15 +57,20 @@ TEST(Block_Transfer, ThePercentageMovesAtEachWholeNumber) {
   }
 }
 
-TEST(Block_Transfer, WholeSecondsAreRoundedDown) {
-  Chip_Bench bench("24C00", "5.00");
-  bool passed = false;
-  bench.On_Yield = [&] {
-    if (!passed) bench.Pass(11.5);
-    passed = true;
-  };
-  Cmd_WRITE_all_Click();
-  EXPECT_EQ(Panel(1), "書き込み終了。 (12sec)");
+TEST(Block_Transfer, TheTimeTakenIsInWholeSecondsRoundedDownAndCountsTheHandshake) {
+  for (const char* chip : {"24C00", "AT93C46"})
+    for (const auto& [run, text] :
+         {std::pair{&Cmd_READ_all_Click, "読み出し終了。 ("}, {&Cmd_WRITE_all_Click, "書き込み終了。 ("}}) {
+      SCOPED_TRACE(std::string(chip) + text);
+      Chip_Bench bench(chip, "5.00");
+      bool passed = false;
+      bench.On_Yield = [&] {
+        if (!std::exchange(passed, true)) bench.Pass(11.5);
+      };
+      const double before = bench.Now();
+      run();
+      EXPECT_EQ(Panel(1), text + std::to_string(static_cast<int>(bench.Now() - before)) + "sec)");
+    }
 }
 
 TEST(Byte_Transfer, TheCellIsUpToDateAfterAReadAndTheChecksumIsNot) {

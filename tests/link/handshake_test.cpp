@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "frm_main.h"
+#include "link.h"
 #include "state.h"
 #include "test_bench.h"
 
@@ -44,6 +45,26 @@ TEST_F(Handshake_Test, CostsItsPauseAndTheWireAndNothingElse) {
   Read_Version();
   // 50 ms of pause, one byte out and 17 back; nothing else.
   EXPECT_NEAR(bench.Now() - before, 0.05 + 18 * 10.0 / 9600, 0.002);
+}
+
+TEST_F(Handshake_Test, TellsAVirtualPortFromAWireByItsSecondAnswerAlone) {
+  const struct {
+    const char* Name;
+    double FirstIsLate;
+    bool HoldsBack;
+  } cases[] = {{"at once", 0, false}, {"the first one late", 0.06, true}};
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.Name);
+    const std::string text = "TOLVEX fw. 5.00\r\n";
+    const Bytes answer(text.begin(), text.end());
+    bench.ByteTime = 1e-5;
+    board.Replies = {{1, answer, c.FirstIsLate}, {1, answer}};
+    Read_Version();
+    ASSERT_EQ(LinkError, 0);
+    const double before = bench.Now();
+    for (int i = 0; i < 1000; ++i) Link_WritePortB(0x40);
+    EXPECT_EQ(bench.Now() - before > 1, c.HoldsBack);
+  }
 }
 
 TEST_F(Handshake_Test, RepliesThatAreNoneEndTheTransfer) {

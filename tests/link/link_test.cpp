@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <utility>
 
 #include "state.h"
 #include "test_bench.h"
@@ -149,10 +150,10 @@ TEST_F(Link_Test, WhatIsSentRunsAtMost512BytesAheadOfTheWireOrOfWhatWasSeenOfIt)
     const char* Name;
     double Seen;  // Seconds for 18 bytes; 0 = nothing seen.
     double ByteTime;
-  } cases[] = {{"no word of it", 0, 10.0 / 9600},
+  } cases[] = {{"a virtual port", 0.0018, 0.0001},
+               {"no word of it", 0, 10.0 / 9600},
                {"a wire", 18 * 10.0 / 9600, 10.0 / 9600},
-               {"an adapter that bundles", 0.035, 10.0 / 9600},
-               {"a virtual port", 0.0018, 0.0001}};
+               {"an adapter that bundles", 0.035, 10.0 / 9600}};
   for (const auto& c : cases) {
     SCOPED_TRACE(c.Name);
     MSComm1.Open();
@@ -163,6 +164,17 @@ TEST_F(Link_Test, WhatIsSentRunsAtMost512BytesAheadOfTheWireOrOfWhatWasSeenOfIt)
     for (int i = 128; i < 1000; ++i) Link_WritePortB(0x40);
     EXPECT_NEAR(bench.Now() - before, (4000 - 512) * c.ByteTime, 1e-3);
   }
+}
+
+TEST_F(Link_Test, ALateByteThatComesWhileTheWireCatchesUpIsNoReply) {
+  for (int i = 0; i < 128; ++i) Link_WritePortB(0x40);
+  bool late = false;
+  bench.On_Yield = [&] {
+    if (!std::exchange(late, true)) bench.Leave_In_Buffer(0x55);
+  };
+  Link_ReadPortB();
+  EXPECT_TRUE(late);
+  EXPECT_EQ(LinkError, 1);
 }
 
 }  // namespace

@@ -10,7 +10,7 @@ namespace wrenbit {
 Chip_Bench::Chip_Bench(const std::string& chip, const std::string& firmware, bool open_port)
     : Programmer(firmware) {
   Board = &Programmer;
-  Cells = std::make_unique<board::Cell_Store>(board::Chip_Size(chip).value());
+  Cells = std::make_unique<board::Cell_Store>(board::Chip_Size(chip));
   Programmer.Insert(board::Make_Chip(chip, *Cells));
   frmMain.Ensure_Loaded();
   frmMain.CmbSize.Set_ListIndex(frmMain.CmbSize.ListCount() - 1);

@@ -1,5 +1,7 @@
 #include "test_bench.h"
 
+#include <gtest/gtest.h>
+
 #include <algorithm>
 
 #include "state.h"
@@ -35,6 +37,7 @@ void Test_Bench::DoEvents() {
 
 void Test_Bench::Await_Event(double seconds) {
   ++Waits;
+  EXPECT_GE(seconds, 0) << "the platform waits for ever";
   const auto next =
       std::find_if(arriving.begin(), arriving.end(), [&](const Arrival& a) { return a.At > now; });
   const double limit = now + std::max(seconds, 1e-6);
@@ -99,11 +102,11 @@ void Test_Bench::Write(std::span<const std::uint8_t> bytes) {
   Commands.emplace_back(bytes.begin(), bytes.end());
   for (const std::uint8_t byte : bytes) {
     Sent.push_back(byte);
-    out_free = std::max(out_free, now) + kByteTime;
+    out_free = std::max(out_free, now) + ByteTime;
     if (!Board) continue;
     const board::Answer answer = Board->Receive(byte);
     for (const std::uint8_t said : answer.Bytes) {
-      back_free = std::max(back_free, out_free + answer.Late) + kByteTime;
+      back_free = std::max(back_free, out_free + answer.Late) + ByteTime;
       arriving.push_back({back_free, said});
     }
   }

@@ -33,6 +33,7 @@ class Test_Bench : private Platform, private Settings_Store, private Serial_Back
   std::size_t Waits = 0;                  // How often it rested for an event.
   std::vector<std::string> Opened;        // "COM1 RTS DTR" for each open.
   std::map<int, Serial_Device> Devices;   // By COM number.
+  double ByteTime = 10.0 / 9600;          // Seconds a byte on the wire.
   bool Is_Open() const { return open; }
   // A byte that lies in the receive buffer now.
   void Leave_In_Buffer(std::uint8_t byte) { arriving.push_back({now, byte}); }
@@ -56,8 +57,6 @@ class Test_Bench : private Platform, private Settings_Store, private Serial_Back
     double At;
     std::uint8_t Byte;
   };
-  static constexpr double kByteTime = 10.0 / 9600;
-
   void DoEvents() override;
   void Await_Event(double seconds) override;
   double Timer() override { return now; }
