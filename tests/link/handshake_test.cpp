@@ -52,7 +52,7 @@ TEST_F(Handshake_Test, TellsAVirtualPortFromAWireByItsSecondAnswerAlone) {
     const char* Name;
     double FirstIsLate;
     bool HoldsBack;
-  } cases[] = {{"at once", 0, false}, {"the first one late", 0.06, true}};
+  } cases[] = {{"at once", 0, false}, {"the first one late", 0.052, true}};
   for (const auto& c : cases) {
     SCOPED_TRACE(c.Name);
     const std::string text = "TOLVEX fw. 5.00\r\n";
