@@ -45,8 +45,6 @@ Drive Three_Wire_Chip::Drives_Line(Line line, double now) const {
   return Out ? Drive::kHigh : Drive::kLow;
 }
 
-//
-
 void Three_Wire_Chip::On_Clock(bool bit) {
   switch (State) {
     case Phase::kDeaf:  // Nothing counts until CS falls.

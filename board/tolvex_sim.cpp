@@ -5,7 +5,9 @@
 #include <exception>
 #include <iostream>
 #include <memory>
+#include <stdexcept>
 #include <string>
+#include <vector>
 
 #include "board_terminal.h"
 #include "com_port_link.h"
@@ -63,7 +65,7 @@ class Chip_Seat {
   // was in the socket is still there.
   void Seat(const std::string& chip, const std::string& image) {
     if (chip == kNoChip) {
-      if (!image.empty()) throw std::invalid_argument("no chip has no image");
+      if (!image.empty()) throw std::invalid_argument("an empty socket has no image");
       Programmer.Insert(nullptr);
       Cells.reset();
       Content = "no chip";

@@ -191,7 +191,7 @@ TEST_F(Tolvex_Sim, Swaps_The_Chip_At_A_Typed_Line_And_Keeps_It_When_The_Line_Is_
       {"at93c46  \"" + image + "\" \r\n", {chip}},
       {"24C99\n", {"no chip has the name 24C99", chip}},
       {"24C02 " + small + "\n", {"image " + small + ": holds 5 bytes, the chip 256", chip}},
-      {"none " + image + "\n", {"no chip has no image", chip}},
+      {"none " + image + "\n", {"an empty socket has no image", chip}},
       {"24C02 " + std::string(100000, 'x') + "\n\n",
        {"image " + std::string(4090, 'x') + ": File name too long", chip, chip}},
       {"NONE\n", {"no chip in the socket"}},
