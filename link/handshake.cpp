@@ -1,6 +1,8 @@
 #include "handshake.h"
 
+#include <algorithm>
 #include <array>
+#include <limits>
 
 #include "code_page_932.h"
 #include "com_ports.h"
@@ -22,6 +24,9 @@ constexpr std::string_view kWord = "TOLVEX";
 constexpr std::size_t kTextLength = 15;
 constexpr std::size_t kVersionAt = 11;
 constexpr std::size_t kReplyLength = 17;
+constexpr std::size_t kNoLength = std::numeric_limits<std::size_t>::max();
+constexpr double kPause = 0.020;      // Seconds. Longer than an adapter that bundles its bytes is silent.
+constexpr double kLongestRest = 1.0;  // Seconds that may go by behind the first 17 bytes.
 
 constexpr const char* kLimits256 =
     "パフォーマンスの関係で、アクセスサイズを[AllRead]=２５６バイト,[AllWrite]=２５６バイトに制限しています。"
@@ -86,6 +91,21 @@ void Query() {
   MSComm1.Output(kQuery);
 }
 
+// What comes behind the bytes that count must not pass for the reply to the next command. It is over when the
+// answer is as long as the one before it, or at a pause.
+void Await_Rest(std::size_t length) {
+  const double limit = Timer() + kLongestRest;
+  double heard = Timer();
+  for (std::size_t seen = 0; seen < length && !MSComm1.Lost();) {
+    const std::size_t now = MSComm1.InBufferCount();
+    if (now != seen) heard = Timer();
+    seen = now;
+    const double left = std::min(heard + kPause, limit) - Timer();
+    if (left <= 0) return;
+    if (seen < length) ThePlatform->Await_Event(left);
+  }
+}
+
 const char* Limits_Text() {
   if (ProgrammerVersion == 0) return "";
   return ProgrammerVersion < 5.0F ? kLimits256 : kLimits4096;
@@ -117,15 +137,19 @@ void Read_Version() {
   Query();
   Sleep(50);
   DoEvents();
-  const bool first_is_complete = MSComm1.InBufferCount() >= kReplyLength;
+  const std::size_t first = MSComm1.InBufferCount();
   const double asked = Timer();
   Query();
   Await_Bytes(kReplyLength);
   if (MSComm1.InBufferCount() < kReplyLength)
     return Tell_No_Answer(port.Text, MSComm1.Lost() ? Port_Fault::Gone : Port_Fault::None);
 
-  // The first answer, had it come late, could pass for a fast second one.
-  if (first_is_complete) MSComm1.Learn_Pace(1 + kReplyLength, Timer() - asked);
+  if (first >= kReplyLength) {
+    MSComm1.Learn_Pace(1 + kReplyLength, Timer() - asked);
+    Await_Rest(first);
+  } else {  // A first answer that comes late could pass for a fast second one.
+    Await_Rest(kNoLength);
+  }
   const std::vector<std::uint8_t> reply = MSComm1.Input();
   const std::string text(reply.begin(), reply.begin() + kTextLength);
   if (!text.starts_with(kWord)) {

@@ -19,7 +19,10 @@ struct Handshake_Test : testing::Test {
     TransferRunning = -1;  // As behind the command lock.
   }
 
-  void Answer(const std::string& text) { board.Replies = {{1, {}}, {1, Bytes(text.begin(), text.end())}}; }
+  void Answer(const std::string& text) {
+    const Bytes bytes(text.begin(), text.end());
+    board.Replies = {{1, bytes}, {1, bytes}};
+  }
   static const std::string& Panel(int number) { return frmMain.sbStatusBar.Panel(number); }
 };
 
@@ -45,6 +48,23 @@ TEST_F(Handshake_Test, CostsItsPauseAndTheWireAndNothingElse) {
   Read_Version();
   // 50 ms of pause, one byte out and 17 back; nothing else.
   EXPECT_NEAR(bench.Now() - before, 0.05 + 18 * 10.0 / 9600, 0.002);
+}
+
+TEST_F(Handshake_Test, NoPartOfALongAnswerIsTakenForTheNextReply) {
+  for (const std::size_t length : {17U, 18U, 20U, 45U})
+    for (const bool twice : {true, false}) {
+      SCOPED_TRACE(std::to_string(length) + (twice ? "" : ", the first query unheard"));
+      std::string text = "TOLVEX fw. 5.00";
+      text.resize(length, '*');
+      const Bytes answer(text.begin(), text.end());
+      board.Replies = {{1, twice ? answer : Bytes{}}, {1, answer}, {3, {0x42}}};
+      const double before = bench.Now();
+      Read_Version();
+      const double pause = twice ? 0 : 0.020;
+      EXPECT_NEAR(bench.Now() - before, 0.05 + static_cast<double>(1 + length) * 10 / 9600 + pause, 0.002);
+      EXPECT_EQ(Link_ReadPortA(), 0x42);
+      EXPECT_EQ(LinkError, 0);
+    }
 }
 
 TEST_F(Handshake_Test, TellsAVirtualPortFromAWireByItsSecondAnswerAlone) {
