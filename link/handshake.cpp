@@ -24,7 +24,7 @@ constexpr std::string_view kWord = "TOLVEX";
 constexpr std::size_t kTextLength = 15;
 constexpr std::size_t kVersionAt = 11;
 constexpr std::size_t kReplyLength = 17;
-constexpr std::size_t kNoLength = std::numeric_limits<std::size_t>::max();
+constexpr std::size_t kAnyNumber = std::numeric_limits<std::size_t>::max();
 constexpr double kPause = 0.020;      // Seconds. Longer than an adapter that bundles its bytes is silent.
 constexpr double kLongestRest = 1.0;  // Seconds that may go by behind the first 17 bytes.
 
@@ -91,18 +91,18 @@ void Query() {
   MSComm1.Output(kQuery);
 }
 
-// What comes behind the bytes that count must not pass for the reply to the next command. It is over when the
-// answer is as long as the one before it, or at a pause.
-void Await_Rest(std::size_t length) {
+// What of the answer is still to come must not pass for the reply to the next command, which drops what has
+// come. It ends with so many bytes, or at a pause.
+void Await_Rest(std::size_t bytes) {
   const double limit = Timer() + kLongestRest;
   double heard = Timer();
-  for (std::size_t seen = 0; seen < length && !MSComm1.Lost();) {
+  for (std::size_t seen = 0; seen < bytes && !MSComm1.Lost();) {
+    const double left = std::min(heard + kPause, limit) - Timer();
+    if (left <= 0) return;
+    ThePlatform->Await_Event(left);
     const std::size_t now = MSComm1.InBufferCount();
     if (now != seen) heard = Timer();
     seen = now;
-    const double left = std::min(heard + kPause, limit) - Timer();
-    if (left <= 0) return;
-    if (seen < length) ThePlatform->Await_Event(left);
   }
 }
 
@@ -144,13 +144,14 @@ void Read_Version() {
   if (MSComm1.InBufferCount() < kReplyLength)
     return Tell_No_Answer(port.Text, MSComm1.Lost() ? Port_Fault::Gone : Port_Fault::None);
 
-  if (first >= kReplyLength) {
-    MSComm1.Learn_Pace(1 + kReplyLength, Timer() - asked);
-    Await_Rest(first);
-  } else {  // A first answer that comes late could pass for a fast second one.
-    Await_Rest(kNoLength);
-  }
+  const double answered = Timer();
   const std::vector<std::uint8_t> reply = MSComm1.Input();
+  if (first >= kReplyLength) {
+    MSComm1.Learn_Pace(1 + kReplyLength, answered - asked);
+    Await_Rest(first - std::min(first, reply.size()));
+  } else {  // A first answer that comes late could pass for a fast second one.
+    Await_Rest(kAnyNumber);
+  }
   const std::string text(reply.begin(), reply.begin() + kTextLength);
   if (!text.starts_with(kWord)) {
     // An unknown board is not driven.

@@ -67,6 +67,27 @@ TEST_F(Handshake_Test, NoPartOfALongAnswerIsTakenForTheNextReply) {
     }
 }
 
+TEST_F(Handshake_Test, APortThatGoesBehindAGoodAnswerEndsQuietly) {
+  struct : Scripted_Board {
+    bool Pulled = false;
+    bool Gone() const override { return Pulled; }
+  } pulled;
+  const std::string text = "TOLVEX fw. 5.00\r\nand more of it";
+  const Bytes answer(text.begin(), text.end());
+  pulled.Replies = {{1, answer}, {1, answer}};
+  bench.Board = &pulled;
+  double asked = 0;
+  bench.On_Yield = [&] {
+    if (bench.Sent.size() == 2 && asked == 0) asked = bench.Now();
+    if (asked > 0 && bench.Now() > asked + 20 * bench.ByteTime) pulled.Pulled = true;
+  };
+  Read_Version();
+  EXPECT_TRUE(pulled.Pulled);
+  EXPECT_EQ(Panel(2), "COM1 : TOLVEX fw. 5.00");
+  Link_ReadPortA();
+  EXPECT_EQ(LinkError, 1);
+}
+
 TEST_F(Handshake_Test, TellsAVirtualPortFromAWireByItsSecondAnswerAlone) {
   const struct {
     const char* Name;

@@ -80,13 +80,14 @@ std::optional<Serial_Device> Test_Bench::Device(int number) {
 }
 
 std::size_t Test_Bench::Waiting() {
+  if (Lost()) return 0;
   return static_cast<std::size_t>(
       std::count_if(arriving.begin(), arriving.end(), [&](const Arrival& a) { return a.At <= now; }));
 }
 
 Bytes Test_Bench::Take() {
   Bytes taken;
-  while (!arriving.empty() && arriving.front().At <= now) {
+  while (Waiting() > 0 && arriving.front().At <= now) {
     taken.push_back(arriving.front().Byte);
     arriving.pop_front();
   }
