@@ -51,10 +51,12 @@ void Three_Wire_Chip::On_Clock(bool bit) {
       break;
 
     case Phase::kStart:  // Zeros may come before the start bit. A clock in the write cycle spoils the frame.
-      if (Now < BusyUntil) State = Phase::kDeaf;
-      if (!bit || State == Phase::kDeaf) break;
-      ShowsStatus = false;
-      State = Phase::kOpcode;
+      if (Now < BusyUntil) {
+        State = Phase::kDeaf;
+      } else if (bit) {
+        ShowsStatus = false;
+        State = Phase::kOpcode;
+      }
       break;
 
     case Phase::kOpcode:

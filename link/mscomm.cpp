@@ -50,9 +50,12 @@ void MSComm::Learn_Pace(std::size_t bytes, double seconds) {
 
 void MSComm::Await_Room(std::size_t bytes) {
   const double room = (static_cast<double>(kOutBufferSize) - static_cast<double>(bytes)) * byte_time;
-  for (double ahead = wire_free - room - Timer(); ahead > 0 && open && !Lost();
-       ahead = wire_free - room - Timer())
+  while (true) {
+    const double ahead =
+        wire_free - room - Timer();  // Read once: a wait must not be told a time that is over.
+    if (ahead <= 0 || !open || Lost()) return;
     ThePlatform->Await_Event(ahead);
+  }
 }
 
 }  // namespace wrenbit

@@ -125,30 +125,5 @@ TEST(C24_Wire, ByteTransfersGoBitByBitInBothAddressForms) {
   }
 }
 
-TEST(C24_Wire, AByteOfABlockCostsOnTheWireWhatItsTableSays) {
-  const struct {
-    const char* Firmware;
-    void (*Run)();
-    std::size_t Out, Back;
-  } cases[] = {{"4.90", Cmd_WRITE_all_Click, 119, 1},
-               {"4.90", Cmd_READ_all_Click, 196, 8},
-               {"5.00", Cmd_WRITE_all_Click, 3, 2},
-               {"5.00", Cmd_READ_all_Click, 2, 1}};
-  for (const auto& c : cases) {
-    SCOPED_TRACE(std::string(c.Firmware) + " " + std::to_string(c.Out));
-    // Two blocks within one page, so that only the data bytes differ.
-    std::size_t out[2], back[2];
-    for (int size = 0; size < 2; ++size) {
-      Chip_Bench bench("24C64", c.Firmware);
-      frmMain.CmbSize.Set_ListIndex(size);
-      c.Run();
-      out[size] = bench.Sent.size();
-      back[size] = bench.Received;
-    }
-    EXPECT_EQ(out[1] - out[0], 16 * c.Out);
-    EXPECT_EQ(back[1] - back[0], 16 * c.Back);
-  }
-}
-
 }  // namespace
 }  // namespace wrenbit

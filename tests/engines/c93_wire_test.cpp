@@ -63,11 +63,19 @@ TEST(C93_Wire, FromVersion5OnABlockIsAFrameOfFieldsForEachByte) {
   EXPECT_EQ(bench.Sent, read.Off());
 }
 
-TEST(C93_Wire, AnAddressAbove255HasItsHighBitsInTheHighByte) {
-  Chip_Bench bench("AT93C66", "5.00");
-  Cmd_READ_all_Click();
-  const Bytes field{'0', 9, 1, 0xA5};
-  EXPECT_NE(std::search(bench.Sent.begin(), bench.Sent.end(), field.begin(), field.end()), bench.Sent.end());
+TEST(C93_Wire, AnAddressIsAFieldOfTheDevicesOwnLength) {
+  const struct {
+    const char* Chip;
+    int AddressBits;
+    Bytes Field;
+  } cases[] = {{"AT93C66", 9, {'0', 9, 1, 0xA5}}, {"AT93C46", 16, {'0', 16, 0, 0x7F}}};
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.Chip);
+    Chip_Bench bench(c.Chip, "5.00");
+    AddressBits = c.AddressBits;
+    Cmd_READ_all_Click();
+    EXPECT_EQ(std::ranges::count(bench.Commands, c.Field), 1);
+  }
 }
 
 TEST(C93_Wire, ByteTransfersGoBitByBitAtEveryVersion) {
@@ -114,31 +122,6 @@ TEST(C93_Wire, AnAddressLosesTheBitsThatTheInstructionHasNoPlaceFor) {
   EXPECT_EQ(ImageBuffer[0x5A], 0xFF);
 }
 
-TEST(C93_Wire, AByteOfABlockCostsOnTheWireWhatItsTableSays) {
-  const struct {
-    const char* Firmware;
-    void (*Run)();
-    std::size_t PerAddressBit, Out, Back;
-  } cases[] = {{"4.90", Cmd_READ_all_Click, 12, 132, 8},
-               {"4.90", Cmd_WRITE_all_Click, 12, 140, 0},
-               {"5.00", Cmd_READ_all_Click, 0, 17, 3},
-               {"5.00", Cmd_WRITE_all_Click, 0, 20, 3}};
-  for (const auto& part : board::Three_Wire_Parts())
-    for (const auto& c : cases) {
-      SCOPED_TRACE(std::string(part.Name) + " " + c.Firmware);
-      std::size_t out[2], back[2];
-      for (int size = 0; size < 2; ++size) {
-        Chip_Bench bench(std::string(part.Name), c.Firmware);
-        frmMain.CmbSize.Set_ListIndex(size);
-        c.Run();
-        out[size] = bench.Sent.size();
-        back[size] = bench.Received;
-      }
-      EXPECT_EQ(out[1] - out[0], 16 * (c.PerAddressBit * static_cast<std::size_t>(part.AddressBits) + c.Out));
-      EXPECT_EQ(back[1] - back[0], 16 * c.Back);
-    }
-}
-
 TEST(C93_Wire, ABlockSizeAboveTheChipsIsCorrectedBeforeTheHandshakeOfAReadAndBehindTheEnableOfAWrite) {
   for (const auto& [run, sent_before] :
        {std::pair{&Cmd_READ_all_Click, 1}, {&Cmd_WRITE_all_Click, 2 + 33 + 4 + 10 * 12 + 4}}) {
@@ -153,14 +136,6 @@ TEST(C93_Wire, ABlockSizeAboveTheChipsIsCorrectedBeforeTheHandshakeOfAReadAndBeh
     EXPECT_EQ(corrected, sent_before);
     EXPECT_EQ(LinkError, 0);
   }
-}
-
-TEST(C93_Wire, AnInstructionHasUpTo16AddressBits) {
-  Chip_Bench bench("AT93C46", "5.00");
-  Select_Device(3, 7, 1, 0, 16);
-  Cmd_READ_all_Click();
-  const Bytes field{'0', 16, 0, 0x7F};
-  EXPECT_NE(std::search(bench.Sent.begin(), bench.Sent.end(), field.begin(), field.end()), bench.Sent.end());
 }
 
 // The wire's time is all that a write cycle gets, and nothing tells when it was not enough.

@@ -73,6 +73,38 @@ TEST(Block_Transfer, TheTimeTakenIsInWholeSecondsRoundedDownAndCountsTheHandshak
     }
 }
 
+TEST(Block_Transfer, AByteCostsOnTheWireWhatItsTableSays) {
+  const struct {
+    const char* Chip;
+    const char* Firmware;
+    void (*Run)();
+    std::size_t Out, Back;
+  } cases[] = {{"24C64", "4.90", Cmd_READ_all_Click, 196, 8},
+               {"24C64", "4.90", Cmd_WRITE_all_Click, 119, 1},
+               {"24C64", "5.00", Cmd_READ_all_Click, 2, 1},
+               {"24C64", "5.00", Cmd_WRITE_all_Click, 3, 2},
+               {"AT93C46", "4.90", Cmd_READ_all_Click, 12 * 7 + 132, 8},
+               {"AT93C46", "4.90", Cmd_WRITE_all_Click, 12 * 7 + 140, 0},
+               {"AT93C86", "4.90", Cmd_READ_all_Click, 12 * 11 + 132, 8},
+               {"AT93C86", "4.90", Cmd_WRITE_all_Click, 12 * 11 + 140, 0},
+               {"AT93C86", "5.00", Cmd_READ_all_Click, 17, 3},
+               {"AT93C86", "5.00", Cmd_WRITE_all_Click, 20, 3}};
+  for (const auto& c : cases) {
+    SCOPED_TRACE(std::string(c.Chip) + " at " + c.Firmware + " " + std::to_string(c.Out));
+    // Two blocks within one page, so that only the data bytes differ.
+    std::size_t out[2], back[2];
+    for (int size = 0; size < 2; ++size) {
+      Chip_Bench bench(c.Chip, c.Firmware);
+      frmMain.CmbSize.Set_ListIndex(size);
+      c.Run();
+      out[size] = bench.Sent.size();
+      back[size] = bench.Received;
+    }
+    EXPECT_EQ(out[1] - out[0], 16 * c.Out);
+    EXPECT_EQ(back[1] - back[0], 16 * c.Back);
+  }
+}
+
 TEST(Byte_Transfer, TheCellIsUpToDateAfterAReadAndTheChecksumIsNot) {
   for (const char* chip : {"24C02", "AT93C46"}) {
     SCOPED_TRACE(chip);
