@@ -10,6 +10,7 @@ namespace board {
 // Replies and commands count from 1, from the arming on; 0 = never.
 struct Faults {
   std::uint64_t DropReply = 0;
+  std::uint64_t MuteFrom = 0;  // From this reply on, the board does all and says nothing.
   std::uint64_t CorruptReply = 0;
   std::uint8_t CorruptMask = 0xFF;  // Turns these bits in every byte of the corrupted reply.
   std::uint64_t DoubleReply = 0;
@@ -30,13 +31,20 @@ class Faulty_Board : public Wire_End {
   Answer Receive(std::uint8_t byte) override;
   bool Gone() const override { return HasGone || Inner.Gone(); }
   std::uint64_t Commands() const override { return Inner.Commands(); }
+  // A fault of those that were armed has come to pass.
+  bool Met() const { return HasMet; }
 
  private:
+  // Whether the fault that begins at `first` is there at `count`; it is then met.
+  bool From(std::uint64_t first, std::uint64_t count);
+  bool At(std::uint64_t only, std::uint64_t count) { return only == count && From(only, count); }
+
   Wire_End& Inner;
   Faults Armed;
   std::uint64_t CommandsBefore = 0;  // Those that the inner board had completed at the arming.
   std::uint64_t Replies = 0;         // Those of the inner board since then.
   bool HasGone = false;
+  bool HasMet = false;
 };
 
 }  // namespace board

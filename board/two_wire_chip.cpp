@@ -9,12 +9,7 @@ void Two_Wire_Chip::Sense(const Levels& levels, double now) {
   const bool sda_before = std::exchange(Sda, levels[Line::kSda]);
   const bool powered_before = std::exchange(Powered, levels[Line::kSupply]);
   Now = now;
-  if (!Powered) {
-    Stand_By();
-    BusyUntil = 0;
-    Pointer = 0;
-    return;
-  }
+  if (!Powered) return On_Supply_Lost();
   if (!powered_before) return;  // Levels that came with the supply are no edges.
 
   if (scl_before && Scl) {
@@ -44,9 +39,19 @@ void Two_Wire_Chip::On_Start() {
 void Two_Wire_Chip::On_Stop() {
   if (State == Phase::kReceive && Bits == 0 && !Page.empty()) {
     for (const auto& [address, byte] : Page) Cells.Write(address, byte);
+    Cycle = std::exchange(Page, {});
     BusyUntil = Now + Part.WriteCycle;
   }
   Stand_By();
+}
+
+// A write cycle that is cut short leaves its cells erased, neither old nor new.
+void Two_Wire_Chip::On_Supply_Lost() {
+  if (Now < BusyUntil)
+    for (const auto& [address, byte] : Cycle) Cells.Write(address, 0xFF);
+  Stand_By();
+  BusyUntil = 0;
+  Pointer = 0;
 }
 
 // A whole clock pulse is over and `bit` was on the data line; the chip changes the line only here, with the

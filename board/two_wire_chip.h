@@ -25,6 +25,7 @@ class Two_Wire_Chip : public Chip {
 
   void On_Start();
   void On_Stop();
+  void On_Supply_Lost();
   void On_Clock(bool bit);
 
   bool Accept(std::uint8_t byte);
@@ -48,9 +49,10 @@ class Two_Wire_Chip : public Chip {
   std::uint8_t Shift = 0;  // The byte that goes over the bus, highest bit first.
   int Bits = 0;            // Those of it that have passed.
   int AddressBytesLeft = 0;
-  std::size_t Word = 0;                      // The address as it comes in.
-  std::size_t Pointer = 0;                   // The chip's address counter.
-  std::map<std::size_t, std::uint8_t> Page;  // Bytes that wait for the write cycle, by address.
+  std::size_t Word = 0;                       // The address as it comes in.
+  std::size_t Pointer = 0;                    // The chip's address counter.
+  std::map<std::size_t, std::uint8_t> Page;   // Bytes that wait for the write cycle, by address.
+  std::map<std::size_t, std::uint8_t> Cycle;  // Those that the write cycle in hand, or the last one, writes.
 };
 
 }  // namespace board

@@ -30,6 +30,7 @@ TEST(Faulty_Board, Spoils_The_Counted_Reply_And_No_Other) {
       {"dropped", {.DropReply = 2}, {{0x81}, {}, {0x83}}},
       {"corrupt", {.CorruptReply = 3, .CorruptMask = 0x01}, {{0x81}, {0x82}, {0x82}}},
       {"doubled", {.DoubleReply = 1}, {{0x81, 0x81}, {0x82}, {0x83}}},
+      {"mute", {.MuteFrom = 2}, {{0x81}, {}, {}}},
       {"silent", {.SilentFrom = 5}, {{0x81}, {}, {}}},
       {"gone", {.GoneAt = 6}, {{0x81}, {0x82}, {}}},
   };
@@ -39,6 +40,7 @@ TEST(Faulty_Board, Spoils_The_Counted_Reply_And_No_Other) {
     faulty.Arm(fault.Armed);
     EXPECT_EQ(Three_Reads(faulty), fault.Heard) << fault.Name;
     EXPECT_EQ(faulty.Gone(), fault.Armed.GoneAt != 0) << fault.Name;
+    EXPECT_EQ(faulty.Met(), &fault != std::begin(cases)) << fault.Name;
   }
 }
 
