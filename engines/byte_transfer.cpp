@@ -6,6 +6,7 @@
 #include "frm_main.h"
 #include "refusal.h"
 #include "state.h"
+#include "verdict.h"
 
 namespace wrenbit {
 namespace {
@@ -22,7 +23,7 @@ bool Byte_Cell_Ready() {
 }
 
 void Finish_Byte_Read(std::uint8_t byte) {
-  if (LinkError) return;
+  if (Transfer_Failed()) return;
   ImageBuffer[static_cast<std::size_t>(Current_Address())] = byte;
   frmMain.MSFGrid1.Set_Text(Byte_Cell(byte));
   MSFGrid1_Click();
@@ -30,7 +31,7 @@ void Finish_Byte_Read(std::uint8_t byte) {
 }
 
 void Finish_Byte_Write() {
-  if (!LinkError) Tell_End();
+  if (!Transfer_Failed()) Tell_End();
 }
 
 }  // namespace wrenbit

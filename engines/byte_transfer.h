@@ -9,11 +9,11 @@ namespace wrenbit {
 // port is touched: false.
 bool Byte_Cell_Ready();
 
-// With LinkError 0 the byte goes into the image and the current cell, the edit panel follows, and panel 1
-// says the end. Otherwise nothing happens.
+// Unless the transfer failed, the byte goes into the image and the current cell, the edit panel follows, and
+// panel 1 says the end.
 void Finish_Byte_Read(std::uint8_t byte);
 
-// With LinkError 0 panel 1 says the end.
+// Unless the transfer failed, panel 1 says the end.
 void Finish_Byte_Write();
 
 }  // namespace wrenbit

@@ -9,6 +9,7 @@
 #include "platform.h"
 #include "refusal.h"
 #include "state.h"
+#include "verdict.h"
 
 namespace wrenbit {
 namespace {
@@ -76,7 +77,7 @@ void C24_AllRead() {
   }
   C24_StopBit();
   C24_Power_off();
-  if (LinkError) return;
+  if (Transfer_Failed()) return;
   Tell_Duration("読み出し終了。");
 }
 
@@ -93,7 +94,7 @@ void C24_AllWrite() {
     address = Write_Page(address, last, progress);
   } while (address <= last && !LinkError);
   C24_Power_off();
-  if (LinkError) return;
+  if (Transfer_Failed()) return;
   Tell_Duration("書き込み終了。");
 }
 

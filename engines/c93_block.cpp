@@ -8,6 +8,7 @@
 #include "link.h"
 #include "platform.h"
 #include "state.h"
+#include "verdict.h"
 
 namespace wrenbit {
 namespace {
@@ -39,7 +40,8 @@ void C93_AllRead() {
     if (LinkError) break;
   }
   C93_Power_off();
-  if (LinkError) return;
+  Await_Stray_Answer();
+  if (Transfer_Failed()) return;
   Tell_Duration("読み出し終了。");
 }
 
@@ -61,7 +63,7 @@ void C93_AllWrite() {
     if (LinkError) break;
   }
   C93_Power_off();
-  if (LinkError) return;
+  if (Transfer_Failed()) return;
   Tell_Duration("書き込み終了。");
 }
 

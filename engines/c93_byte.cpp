@@ -7,6 +7,7 @@
 #include "cell_selection.h"
 #include "handshake.h"
 #include "state.h"
+#include "verdict.h"
 
 namespace wrenbit {
 
@@ -20,6 +21,7 @@ void C93_ByteRead() {
   const std::uint8_t byte = C93_Byte_By_Bits();
   C93_CS_Low();
   C93_Power_off();
+  Await_Stray_Answer();
   Finish_Byte_Read(byte);
 }
 

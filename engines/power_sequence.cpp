@@ -2,18 +2,33 @@
 
 #include "frm_main.h"
 #include "link.h"
+#include "mscomm.h"
 #include "state.h"
 
 namespace wrenbit {
 
-void Run_Power_Sequence(const Power_Sequence& to, const std::string& family) {
-  // Latches first: a pin that turns into an output already has its level.
+namespace {
+
+// Latches first: a pin that turns into an output already has its level.
+void Drive(const Power_Sequence& to) {
   Link_WritePortA(PortMirror.OutA = to.Out.A);
   Link_WritePortB(PortMirror.OutB = to.Out.B);
   Link_WritePortC(PortMirror.OutC = to.Out.C);
   Link_SetDirA(PortMirror.DirA = to.Dir.A);
   Link_SetDirB(PortMirror.DirB = to.Dir.B);
   Link_SetDirC(PortMirror.DirC = to.Dir.C);
+}
+
+}  // namespace
+
+void Run_Power_Sequence(const Power_Sequence& to, const std::string& family) {
+  MSComm1.Resume();
+  Drive(to);
+  // No socket stays powered for one command that the system would not take.
+  if (MSComm1.Refused()) {
+    MSComm1.Resume();
+    Drive(to);
+  }
 
   const auto good = [&](std::uint8_t pins, std::uint8_t watched, std::uint8_t expected, const char* port) {
     if ((pins & watched) == expected && !LinkError) return true;

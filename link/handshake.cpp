@@ -25,8 +25,6 @@ constexpr std::size_t kTextLength = 15;
 constexpr std::size_t kVersionAt = 11;
 constexpr std::size_t kReplyLength = 17;
 constexpr std::size_t kAnyNumber = std::numeric_limits<std::size_t>::max();
-constexpr double kPause = 0.020;      // Seconds. Longer than an adapter that bundles its bytes is silent.
-constexpr double kLongestRest = 1.0;  // Seconds that may go by behind the first 17 bytes.
 
 constexpr const char* kLimits256 =
     "パフォーマンスの関係で、アクセスサイズを[AllRead]=２５６バイト,[AllWrite]=２５６バイトに制限しています。"
@@ -85,25 +83,12 @@ Port_Fault Open_Chosen(const Port_Choice& port) {
   return MSComm1.Open();
 }
 
-void Query() {
+// False when the system would not take it.
+bool Query() {
   constexpr std::array<std::uint8_t, 1> kQuery{'?'};
   MSComm1.Clear_InBuffer();
-  MSComm1.Output(kQuery);
-}
-
-// What of the answer is still to come must not pass for the reply to the next command, which drops what has
-// come. It ends with so many bytes, or at a pause.
-void Await_Rest(std::size_t bytes) {
-  const double limit = Timer() + kLongestRest;
-  double heard = Timer();
-  for (std::size_t seen = 0; seen < bytes && !MSComm1.Lost();) {
-    const double left = std::min(heard + kPause, limit) - Timer();
-    if (left <= 0) return;
-    ThePlatform->Await_Event(left);
-    const std::size_t now = MSComm1.InBufferCount();
-    if (now != seen) heard = Timer();
-    seen = now;
-  }
+  MSComm1.Resume();
+  return MSComm1.Output(kQuery);
 }
 
 const char* Limits_Text() {
@@ -139,19 +124,21 @@ void Read_Version() {
   DoEvents();
   const std::size_t first = MSComm1.InBufferCount();
   const double asked = Timer();
-  Query();
-  Await_Bytes(kReplyLength);
+  if (Query()) Await_Bytes(kReplyLength);
   if (MSComm1.InBufferCount() < kReplyLength)
     return Tell_No_Answer(port.Text, MSComm1.Lost() ? Port_Fault::Gone : Port_Fault::None);
 
   const double answered = Timer();
   const std::vector<std::uint8_t> reply = MSComm1.Input();
+  // What of the answer is still to come must not pass for the reply to the next command.
   if (first >= kReplyLength) {
     MSComm1.Learn_Pace(1 + kReplyLength, answered - asked);
     Await_Rest(first - std::min(first, reply.size()));
   } else {  // A first answer that comes late could pass for a fast second one.
     Await_Rest(kAnyNumber);
   }
+  MSComm1.Clear_InBuffer();
+  MSComm1.Forget_Unasked();
   const std::string text(reply.begin(), reply.begin() + kTextLength);
   if (!text.starts_with(kWord)) {
     // An unknown board is not driven.

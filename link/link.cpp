@@ -10,27 +10,33 @@
 namespace wrenbit {
 namespace {
 
-void Send(std::initializer_list<std::uint8_t> bytes) {
+// False, with LinkError set, when it did not go out.
+bool Send(std::initializer_list<std::uint8_t> bytes) {
   MSComm1.Await_Room(bytes.size());
   TxBytes = bytes;
   MSComm1.Clear_InBuffer();
-  MSComm1.Output(TxBytes);
+  if (MSComm1.Output(TxBytes)) return true;
+  LinkError = 1;
+  return false;
 }
 
-// The reply's first byte. LinkError and 0 when none came, or more bytes than the operation allows.
-std::uint8_t Take_Reply(std::size_t at_most) {
-  ReplyWait();
+constexpr std::size_t kAny = static_cast<std::size_t>(-1);
+
+// Sends and gives the reply's first byte. LinkError and 0 when none came, or more bytes than the operation
+// allows.
+std::uint8_t Ask(std::initializer_list<std::uint8_t> bytes, std::size_t at_most = kAny) {
   RxBytes = {0};
+  if (!Send(bytes)) return 0;
+  ReplyWait();
   const std::size_t waiting = MSComm1.InBufferCount();
   if (waiting == 0 || waiting > at_most) {
     LinkError = 1;
     return 0;
   }
   RxBytes = MSComm1.Input();
+  MSComm1.Count_Unasked(RxBytes.size() - 1);
   return RxBytes.front();
 }
-
-constexpr std::size_t kAny = static_cast<std::size_t>(-1);
 
 void Write_Port(std::uint8_t port, std::uint8_t value) {
   DoEvents();
@@ -40,8 +46,7 @@ void Write_Port(std::uint8_t port, std::uint8_t value) {
 void Set_Dir(std::uint8_t port, std::uint8_t value) { Send({'m', 't', port, value}); }
 
 std::uint8_t Read_Port(std::uint8_t port) {
-  Send({'m', 'r', port});
-  return Take_Reply(1);  // Two could be the late answer to an earlier command and this one's.
+  return Ask({'m', 'r', port}, 1);  // Two could be the late answer to an earlier command and this one's.
 }
 
 }  // namespace
@@ -49,29 +54,12 @@ std::uint8_t Read_Port(std::uint8_t port) {
 void Link_SendBit1() { Send({'1'}); }
 void Link_SendBit0() { Send({'2'}); }
 
-std::int32_t Link_ReadBit() {
-  Send({'3'});
-  return Take_Reply(kAny) == 1 ? 1 : 0;
-}
-
-void Link_SendByte24(std::uint8_t data) {
-  Send({'9', data});
-  Take_Reply(kAny);
-}
-
-std::uint8_t Link_ReadByte24() {
-  Send({'7'});
-  return Take_Reply(kAny);
-}
-
-std::uint8_t Link_ReadByte93() {
-  Send({'8'});
-  return Take_Reply(kAny);
-}
-
+std::int32_t Link_ReadBit() { return Ask({'3'}) == 1 ? 1 : 0; }
+void Link_SendByte24(std::uint8_t data) { Ask({'9', data}); }
+std::uint8_t Link_ReadByte24() { return Ask({'7'}); }
+std::uint8_t Link_ReadByte93() { return Ask({'8'}); }
 void Link_SendBits93(std::uint8_t count, std::uint8_t high, std::uint8_t low) {
-  Send({'0', count, high, low});
-  Take_Reply(kAny);
+  Ask({'0', count, high, low});
 }
 
 void Link_WritePortA(std::uint8_t value) { Write_Port('a', value); }

@@ -7,7 +7,6 @@
 namespace wrenbit {
 namespace {
 
-constexpr std::size_t kOutBufferSize = 512;
 constexpr double kWireByteTime = 10.0 / 9600;  // Start bit, eight data bits, stop bit.
 
 }  // namespace
@@ -18,6 +17,8 @@ Port_Fault MSComm::Open() {
   open = fault == Port_Fault::None;
   byte_time = kWireByteTime;
   wire_free = 0;
+  unasked = 0;
+  refused = false;
   return fault;
 }
 
@@ -32,15 +33,18 @@ std::optional<Serial_Device> MSComm::Device(int number) const {
 }
 
 void MSComm::Clear_InBuffer() {
-  if (open) backend->Drop();
+  if (!open) return;
+  unasked += backend->Waiting();
+  backend->Drop();
 }
 
 std::vector<std::uint8_t> MSComm::Input() { return open ? backend->Take() : std::vector<std::uint8_t>(); }
 
-void MSComm::Output(std::span<const std::uint8_t> bytes) {
-  if (!open) return;
+bool MSComm::Output(std::span<const std::uint8_t> bytes) {
+  if (!open || refused) return false;
   wire_free = std::max(wire_free, Timer()) + static_cast<double>(bytes.size()) * byte_time;
-  backend->Write(bytes);
+  refused = !backend->Write(bytes);
+  return !refused;
 }
 
 void MSComm::Learn_Pace(std::size_t bytes, double seconds) {

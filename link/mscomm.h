@@ -36,12 +36,15 @@ class Serial_Backend {
   virtual std::size_t Waiting() = 0;
   virtual std::vector<std::uint8_t> Take() = 0;
   virtual void Drop() = 0;
-  // Goes out at once and in one piece. Bytes to a port that is lost are dropped.
-  virtual void Write(std::span<const std::uint8_t> bytes) = 0;
+  // Goes out at once and in one piece. False when the port is lost or the system refuses: of these bytes
+  // nothing more goes out then, and of earlier ones those are lost that the system still held.
+  virtual bool Write(std::span<const std::uint8_t> bytes) = 0;
 };
 
 class MSComm {
  public:
+  static constexpr std::size_t kOutBufferSize = 512;
+
   // The backend outlives its use here.
   void Attach(Serial_Backend* port) { backend = port; }
 
@@ -59,14 +62,24 @@ class MSComm {
   // On a closed port there is nothing to read, and what is sent is dropped.
   std::size_t InBufferCount() { return open ? backend->Waiting() : 0; }
   void Clear_InBuffer();
+  // Bytes that came without being asked for, since the open or since Forget_Unasked: those that
+  // Clear_InBuffer threw away, and those that came with a reply and were counted here.
+  std::size_t Unasked() const { return unasked; }
+  void Count_Unasked(std::size_t bytes) { unasked += bytes; }
+  void Forget_Unasked() { unasked = 0; }
   std::vector<std::uint8_t> Input();
-  // In one piece.
-  void Output(std::span<const std::uint8_t> bytes);
+  // In one piece. False when it did not go out, or not whole: a stream with a hole would mean something else
+  // to the chip, so all that follows is held back and refused too, until Resume or the next open.
+  bool Output(std::span<const std::uint8_t> bytes);
+  bool Refused() const { return refused; }
+  void Resume() { refused = false; }
 
   // Rests, with events delivered, until `bytes` more would run at most 512 bytes ahead of the wire. A system
   // takes thousands of bytes at once, and a read behind them would wait for its answer longer than its
   // second; 512 bytes take half of it. Returns at once on a port that is closed or lost.
   void Await_Room(std::size_t bytes);
+  // The same, until it has carried all.
+  void Await_Idle_Wire() { Await_Room(kOutBufferSize); }
 
   // A query and its answer, so many bytes in all, took so long on the open port. Where that is far less than
   // 9600 baud takes, there is no such wire (a virtual board), and Await_Room goes by what was seen until the
@@ -76,6 +89,8 @@ class MSComm {
  private:
   Serial_Backend* backend = nullptr;
   bool open = false;
+  std::size_t unasked = 0;
+  bool refused = false;
   double byte_time = 0;  // Seconds that a byte takes on the wire.
   double wire_free = 0;  // When the wire has carried all that was sent, on the clock of Timer.
 };

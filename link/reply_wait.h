@@ -12,4 +12,8 @@ void Await_Bytes(std::size_t count);
 // Await_Bytes(1): the wait behind every command that has a reply.
 inline void ReplyWait() { Await_Bytes(1); }
 
+// Waits for bytes that may still be on their way: returns when so many are waiting, or when none has come for
+// 20 milliseconds, after one second at the latest.
+void Await_Rest(std::size_t count);
+
 }  // namespace wrenbit

@@ -8,6 +8,8 @@
 namespace wrenbit {
 namespace {
 
+constexpr int kPatience = 100;  // Milliseconds. At 9600 baud a full buffer has room for 96 bytes by then.
+
 Port_Fault Fault_Of(QSerialPort::SerialPortError error, const QString& device) {
   switch (error) {
     case QSerialPort::DeviceNotFoundError:
@@ -55,7 +57,7 @@ Port_Fault Qt_Serial::Open(int number, bool rts, bool dtr) {
 }
 
 void Qt_Serial::Close() {
-  lost = false;
+  lost = stuck = false;
   port.close();
 }
 
@@ -90,10 +92,16 @@ void Qt_Serial::Drop() {
   if (port.isOpen()) port.clear(QSerialPort::Input);
 }
 
-void Qt_Serial::Write(std::span<const std::uint8_t> bytes) {
-  if (Lost() || !port.isOpen()) return;
+bool Qt_Serial::Write(std::span<const std::uint8_t> bytes) {
+  if (Lost() || !port.isOpen()) return false;
   port.write(reinterpret_cast<const char*>(bytes.data()), static_cast<qint64>(bytes.size()));
   port.flush();
+  // A full buffer of the system empties in time, but a port that takes nothing any more must not cost that
+  // time again for each command. What is refused must not be tried over and over either.
+  while (port.bytesToWrite() > 0 && port.waitForBytesWritten(stuck ? 0 : kPatience)) continue;
+  stuck = port.bytesToWrite() > 0;
+  if (stuck) port.clear(QSerialPort::Output);
+  return !stuck;
 }
 
 }  // namespace wrenbit

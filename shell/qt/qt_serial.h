@@ -21,12 +21,13 @@ class Qt_Serial : public Serial_Backend {
   std::size_t Waiting() override;
   std::vector<std::uint8_t> Take() override;
   void Drop() override;
-  void Write(std::span<const std::uint8_t> bytes) override;
+  bool Write(std::span<const std::uint8_t> bytes) override;
 
  private:
   std::filesystem::path folder;
   QSerialPort port;
   bool lost = false;
+  bool stuck = false;  // The last write was refused.
 };
 
 }  // namespace wrenbit

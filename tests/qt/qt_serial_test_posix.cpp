@@ -44,9 +44,9 @@ class SerialPort : public testing::Test {
     ASSERT_EQ(write(far_end, bytes.data(), bytes.size()), static_cast<ssize_t>(bytes.size()));
   }
   // What one read at the far end gives.
-  Bytes One_Read() {
+  Bytes One_Read(int wait_ms = 0) {
     pollfd ready{.fd = far_end, .events = POLLIN, .revents = 0};
-    if (poll(&ready, 1, 0) != 1) return {};
+    if (poll(&ready, 1, wait_ms) != 1) return {};
     Bytes bytes(4096);
     bytes.resize(static_cast<std::size_t>(std::max<ssize_t>(read(far_end, bytes.data(), bytes.size()), 0)));
     return bytes;
@@ -69,9 +69,24 @@ double Seconds(clockid_t clock) {
 TEST_F(SerialPort, EveryWriteGoesOutAtOnceAndInOnePiece) {
   ASSERT_EQ(port.Open(7, true, false), Port_Fault::None);
   for (const Bytes& bytes : {Bytes{'m', 'w', 0x00, 0xFF}, Bytes{0x0D, 0x0A, 0x11, 0x13, 0x03}}) {
-    port.Write(bytes);
+    EXPECT_TRUE(port.Write(bytes));
     EXPECT_EQ(One_Read(), bytes);
   }
+}
+
+TEST_F(SerialPort, AWriteThatTheSystemDoesNotTakeIsToldAndNotTriedOverAndOver) {
+  ASSERT_EQ(port.Open(7, true, false), Port_Fault::None);
+  const Bytes much(100000, 'x');
+  EXPECT_FALSE(port.Write(much)) << "nobody reads at the far end";
+  const double used = Seconds(CLOCK_PROCESS_CPUTIME_ID);
+  ThePlatform->Await_Event(0.05);
+  EXPECT_LT(Seconds(CLOCK_PROCESS_CPUTIME_ID) - used, 0.03);
+
+  while (!One_Read(200).empty()) continue;  // The kernel hands a full buffer on in pieces.
+  EXPECT_TRUE(port.Write(Bytes{'?'}));
+  EXPECT_EQ(One_Read(), Bytes{'?'}) << "nothing of what was refused comes later";
+  port.Close();
+  EXPECT_FALSE(port.Write(Bytes{'?'}));
 }
 
 TEST_F(SerialPort, BytesThatTheKernelHoldsAreSeenWithoutTheEventLoop) {
@@ -120,7 +135,7 @@ TEST_F(SerialPort, AnUnpluggedPortIsNoticedAtOnceLeavesTheProcessorIdleAndMayCom
     }
     EXPECT_TRUE(port.Lost());
     EXPECT_EQ(port.Waiting(), 0u);
-    port.Write(Bytes{1});
+    EXPECT_FALSE(port.Write(Bytes{1}));
 
     const double used = Seconds(CLOCK_PROCESS_CPUTIME_ID);
     double rested = 0;

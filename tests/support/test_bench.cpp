@@ -28,7 +28,8 @@ Test_Bench::~Test_Bench() {
 void Test_Bench::Forget_Traffic() {
   Sent.clear();
   Commands.clear();
-  Received = Waits = 0;
+  Received = Waits = SilentSeconds = 0;
+  LongestGap = 0;
 }
 
 void Test_Bench::DoEvents() {
@@ -71,7 +72,20 @@ Port_Fault Test_Bench::Open(int number, bool rts, bool dtr) {
   Opened.push_back("COM" + std::to_string(number) + (rts ? " RTS" : "") + (dtr ? " DTR" : ""));
   arriving.clear();
   open = true;
+  gap_from = now;
   return Port_Fault::None;
+}
+
+void Test_Bench::Close() {
+  End_Gap();
+  open = false;
+}
+
+void Test_Bench::End_Gap() {
+  const double gap = now - gap_from;
+  LongestGap = std::max(LongestGap, gap);
+  if (gap >= 1) ++SilentSeconds;
+  gap_from = now;
 }
 
 std::optional<Serial_Device> Test_Bench::Device(int number) {
@@ -99,8 +113,10 @@ void Test_Bench::Drop() {
   std::erase_if(arriving, [&](const Arrival& a) { return a.At <= now; });
 }
 
-void Test_Bench::Write(std::span<const std::uint8_t> bytes) {
+bool Test_Bench::Write(std::span<const std::uint8_t> bytes) {
+  End_Gap();
   Commands.emplace_back(bytes.begin(), bytes.end());
+  if (Takes && !Takes(Commands.size())) return false;
   for (const std::uint8_t byte : bytes) {
     Sent.push_back(byte);
     out_free = std::max(out_free, now) + ByteTime;
@@ -111,6 +127,7 @@ void Test_Bench::Write(std::span<const std::uint8_t> bytes) {
       arriving.push_back({back_free, said});
     }
   }
+  return !Lost();
 }
 
 board::Answer Scripted_Board::Receive(std::uint8_t) {

@@ -25,15 +25,18 @@ class Test_Bench : private Platform, private Settings_Store, private Serial_Back
   ~Test_Bench() override;
 
   // --- The port.
-  board::Wire_End* Board = nullptr;       // What hangs on it; nothing answers when null.
-  Port_Fault Refusal = Port_Fault::None;  // What the next open meets.
-  Bytes Sent;                             // All bytes that went out.
-  std::vector<Bytes> Commands;            // The same, a write each.
-  std::size_t Received = 0;               // Bytes that the program took.
-  std::size_t Waits = 0;                  // How often it rested for an event.
-  std::vector<std::string> Opened;        // "COM1 RTS DTR" for each open.
-  std::map<int, Serial_Device> Devices;   // By COM number.
-  double ByteTime = 10.0 / 9600;          // Seconds a byte on the wire.
+  board::Wire_End* Board = nullptr;        // What hangs on it; nothing answers when null.
+  Port_Fault Refusal = Port_Fault::None;   // What the next open meets.
+  Bytes Sent;                              // All bytes that went out.
+  std::vector<Bytes> Commands;             // The same, a write each; those that were refused too.
+  std::function<bool(std::size_t)> Takes;  // Whether the system takes the write of this number, from 1 on.
+  std::size_t Received = 0;                // Bytes that the program took.
+  std::size_t Waits = 0;                   // How often it rested for an event.
+  double LongestGap = 0;                   // Seconds between two writes, or the last one and the close.
+  std::size_t SilentSeconds = 0;           // How many gaps lasted a second.
+  std::vector<std::string> Opened;         // "COM1 RTS DTR" for each open.
+  std::map<int, Serial_Device> Devices;    // By COM number.
+  double ByteTime = 10.0 / 9600;           // Seconds a byte on the wire.
   bool Is_Open() const { return open; }
   // A byte that lies in the receive buffer now.
   void Leave_In_Buffer(std::uint8_t byte) { arriving.push_back({now, byte}); }
@@ -71,14 +74,17 @@ class Test_Bench : private Platform, private Settings_Store, private Serial_Back
 
   Port_Fault Open(int number, bool rts, bool dtr) override;
   std::optional<Serial_Device> Device(int number) override;
-  void Close() override { open = false; }
+  void Close() override;
   bool Lost() override { return Board && Board->Gone(); }
   std::size_t Waiting() override;
   Bytes Take() override;
   void Drop() override;
-  void Write(std::span<const std::uint8_t> bytes) override;
+  bool Write(std::span<const std::uint8_t> bytes) override;
+
+  void End_Gap();
 
   double now = 1000;
+  double gap_from = 0;
   double out_free = 0;  // When the wire to the board is free again.
   double back_free = 0;
   std::deque<Arrival> arriving;

@@ -1,0 +1,15 @@
+// The last look at a transfer before its end is told.
+#pragma once
+
+namespace wrenbit {
+
+// Waits for an answer that comes behind the last one that was asked for, until the wire has been silent for
+// 20 milliseconds. For transfers whose last answers would not show that they belong to other commands. Does
+// nothing with LinkError set.
+void Await_Stray_Answer();
+
+// LinkError. Sets it first, and says so in panel 1, when the board has said more than it was asked for:
+// answers carry no tag, so any behind the surplus one may have passed for the next command's.
+bool Transfer_Failed();
+
+}  // namespace wrenbit
