@@ -1,0 +1,334 @@
+// Every transfer, with every fault, at every place where it can strike: n = 1, 2, 3 ... until a run meets no
+// fault any more. What must hold in each of these runs is the list in Violation.
+#include <cstdio>
+#include <sstream>
+
+#include "chip_bench.h"
+#include "faulty_board.h"
+#include "hex_grid.h"
+#include "hex_text.h"
+#include "transfer_commands.h"
+
+namespace wrenbit {
+namespace {
+
+// The device is smaller than its chip and the block smaller than the device, two pages long: what lies behind
+// either must stay as it is.
+constexpr int kMemSize = 6;
+constexpr std::size_t kDevice = 64, kBlock = 16;
+constexpr int kPage = 8;
+constexpr std::size_t kByteAt = 37;
+
+struct Transfer {
+  const char* Name;
+  void (*Run)();
+  bool Block, Writes;
+  const char* Firmware;
+  // Answers that a dead board may be waited for, a second each, in the short and the long form of the
+  // address. With the flag set, power on and off, start and stop ask for one each; a read of a block ends at
+  // the byte in hand, a write of one at the page (24Cxx) or the byte (93Cxx), the byte transfers at their
+  // end.
+  std::size_t Waits24[2], Waits93;
+};
+const Transfer kTransfers[] = {
+    {"block_read", Cmd_READ_all_Click, true, false, "4.90", {16, 17}, 10},
+    {"block_read", Cmd_READ_all_Click, true, false, "5.00", {11, 13}, 5},
+    {"block_write", Cmd_WRITE_all_Click, true, true, "4.90", {14, 15}, 2},
+    {"block_write", Cmd_WRITE_all_Click, true, true, "5.00", {24, 26}, 5},
+    {"byte_read", Cmd_READ_single_Click, false, false, "4.90", {16, 17}, 10},
+    {"byte_read", Cmd_READ_single_Click, false, false, "5.00", {16, 17}, 10},
+    {"byte_write", Cmd_WRITE_single_Click, false, true, "4.90", {7, 8}, 2},
+    {"byte_write", Cmd_WRITE_single_Click, false, true, "5.00", {7, 8}, 2},
+};
+struct Form {
+  const char* Chip;
+  int Family, AddressMode, AddressBits;
+  bool Long;
+};
+const Form kForms[] = {{"24C02", 2, 1, 0, false},
+                       {"24C32", 2, 2, 0, true},
+                       {"AT93C46", 3, 0, 7, false},
+                       {"AT93C86", 3, 0, 11, true}};
+
+enum class Ends { Noticed, Right_Or_Noticed, Right, Perhaps_Wrong };
+
+struct Fault {
+  std::string Name;
+  std::function<board::Faults(std::uint64_t n)> Of;  // None: the system refuses a write.
+  Ends As;
+  bool Once = false;  // Only the n-th; the answer to the first query, which nobody looks at, included.
+  enum { Hears, Deaf, Out_Of_Reach } Board = Hears;  // When the power-off comes.
+};
+
+std::vector<Fault> All_Faults() {
+  using board::Faults;
+  std::vector<Fault> all{
+      {"reply dropped", [](auto n) { return Faults{.DropReply = n}; }, Ends::Noticed, true},
+      {"reply doubled", [](auto n) { return Faults{.DoubleReply = n}; }, Ends::Right_Or_Noticed, true},
+      {"reply 1.2 s late", [](auto n) { return Faults{.LateReply = n, .LateBy = 1.2}; }, Ends::Noticed, true},
+      {"reply 0.4 s late", [](auto n) { return Faults{.LateReply = n, .LateBy = 0.4}; }, Ends::Right, true},
+      {"mute from a reply on", [](auto n) { return Faults{.MuteFrom = n}; }, Ends::Noticed},
+      {"dead from a command on", [](auto n) { return Faults{.SilentFrom = n}; }, Ends::Noticed, false,
+       Fault::Deaf},
+      {"port gone at a command", [](auto n) { return Faults{.GoneAt = n}; }, Ends::Noticed, false,
+       Fault::Out_Of_Reach},
+      {"write refused", nullptr, Ends::Noticed, true},
+      {"writes refused from one on", nullptr, Ends::Noticed, false, Fault::Out_Of_Reach},
+  };
+  for (int bit = 0; bit < 8; ++bit)
+    all.push_back({"bit " + std::to_string(bit) + " turned",
+                   [bit](auto n) {
+                     return Faults{.CorruptReply = n, .CorruptMask = static_cast<std::uint8_t>(1 << bit)};
+                   },
+                   Ends::Perhaps_Wrong, true});
+  return all;
+}
+
+std::string Grid_Of(const Bytes& image) {
+  std::string text;
+  for (const std::uint8_t byte : image) text += "0x" + Hex_Text(byte, 2) + ' ';
+  return text;
+}
+
+std::string Grid_Shown() {
+  std::string text;
+  for (int row = 1; row < frmMain.MSFGrid1.Rows(); ++row)
+    for (int col = 1; col <= 16; ++col) text += std::string(frmMain.MSFGrid1.Cell(row, col)) + ' ';
+  return text;
+}
+
+struct Case {
+  Transfer Command;
+  Form Device;
+};
+void PrintTo(const Case& c, std::ostream* out) {
+  *out << c.Device.Chip << " " << c.Command.Firmware << " " << c.Command.Name;
+}
+
+// One run of a transfer. Image, grid, edit panel and chip are filled, each byte other than its neighbours and
+// than its counterpart.
+class One_Run {
+ public:
+  explicit One_Run(const Case& of) : c(of), Bench(c.Device.Chip, c.Command.Firmware) {
+    Select_Device(c.Device.Family, kMemSize, kPage, c.Device.AddressMode, c.Device.AddressBits);
+    frmMain.CmbSize.Set_ListIndex(0);
+    Bench.Fill_Chip(1);
+    Bench.Fill_Image(2);
+    Grid_Refill();
+    Select_Address(kByteAt);
+    frmMain.MSFGrid1.Click();
+    Image = WantedImage = ImageBuffer;
+    Chip = WantedChip = Bench.Chip_Contents();
+    Shown = frmMain.Text_modify_hex.Text();
+    if (c.Command.Block && !c.Command.Writes) WantedImage.assign(kDevice, 0xFF);
+    const std::size_t from = c.Command.Block ? 0 : kByteAt;
+    for (std::size_t at = from; at < from + (c.Command.Block ? kBlock : 1); ++at)
+      c.Command.Writes ? WantedChip[at] = Image[at] : WantedImage[at] = Chip[at];
+    Bench.Board = &Faulty;
+  }
+
+  void Go() {
+    if (c.Device.Family == 3 && !c.Command.Writes && !Bench.On_Yield)
+      Bench.On_Yield = [this] { Flashed = Flashed || Panel(1) == "93Cxx DATA Read on PortB error"; };
+    c.Command.Run();
+  }
+
+  bool Said_To_Be_Done() const {
+    const std::string& text = Panel(1);
+    if (!c.Command.Block) return text == "Finsh";
+    return text.starts_with(c.Command.Writes ? "書き込み終了。 (" : "読み出し終了。 (") &&
+           text.ends_with("sec)");
+  }
+  bool Data_Right() const { return ImageBuffer == WantedImage && Bench.Chip_Contents() == WantedChip; }
+
+  // What of all that must hold does not, in words; empty when everything does.
+  std::string Violation(const Fault& fault) const {
+    // The way back, whatever happened.
+    if (Bench.Is_Open()) return "the port is open";
+    for (const Control* control : frmMain.Controls())
+      if (!control->Reachable()) return "a control is locked";
+    if (frmMain.ActiveControl() != &frmMain.Text_modify_hex) return "the focus is elsewhere";
+    if (frmMain.MousePointer() != Pointer::Default) return "the hourglass is up";
+
+    // Time.
+    if (Bench.LongestGap > 1.001) return "a wait of " + std::to_string(Bench.LongestGap) + " s";
+    const std::size_t most = On_The_Bus() ? Most_Waits() : 1;
+    if (Bench.SilentSeconds > most) return std::to_string(Bench.SilentSeconds) + " waits for an answer";
+
+    // The socket.
+    if (On_The_Bus() && fault.Board != Fault::Out_Of_Reach && !Ended_With_Power_Off())
+      return "the last commands are no power-off";
+    if (fault.Board == Fault::Hears) {
+      if (Bench.Programmer.Supply()) return "the socket is powered";
+      for (const char port : {'a', 'b'})
+        if (Bench.Programmer.Direction(port) != 0xFF) return "pins are driven";
+      if ((Bench.Programmer.Direction('c') | 0x80) != 0xFF) return "pins of port C are driven";
+    }
+
+    // What is told. A window that is about to go tells nothing.
+    const bool done = Said_To_Be_Done();
+    if (!Bench.Ended) {
+      if ((LinkError == 0) != done) return "an error and an end, or neither: " + Panel(1);
+      const bool out_of_step = Panel(1) == "プログラマの応答がずれています。";
+      if (!done && !out_of_step && Panel(1) != Error_Text())
+        return "panel 1 says " + Panel(1) + ", not " + Error_Text();
+      if (On_The_Bus() ? !Panel(2).starts_with("COM1 : TOLVEX") : Panel(2) != "COM1 : ライター未接続")
+        return "panel 2 says " + Panel(2);
+    }
+
+    // What is where.
+    if (ImageBuffer.size() != kDevice) return "the image has another size";
+    if (!Chip_Untouched_Elsewhere()) return "a cell outside the block has changed";
+    if (done && !Data_Right() && fault.As != Ends::Perhaps_Wrong) return "wrong data, said to be done";
+    const bool read = !c.Command.Writes;
+    if ((!read || (!done && !c.Command.Block)) && ImageBuffer != Image) return "the image has changed";
+    if (read && c.Command.Block && !done && !Read_So_Far(fault)) return "the image is no part of the chip";
+    if (Bench.Ended) return {};
+    if (Grid_Shown() != Grid_Of(read && done ? ImageBuffer : Image)) return "the grid shows something else";
+    if (!done && read && frmMain.Text_modify_hex.Text() != Shown) return "the edit panel has changed";
+    return {};
+  }
+
+  const Case& c;
+  Chip_Bench Bench;
+  board::Faulty_Board Faulty{Bench.Programmer};
+  bool Flashed = false;  // The one message of the three-wire bus that a good end replaces.
+
+ private:
+  bool On_The_Bus() const { return !Bench.Commands.empty() && Bench.Commands.back().front() == 'm'; }
+  std::size_t Most_Waits() const {
+    return c.Device.Family == 2 ? c.Command.Waits24[c.Device.Long] : c.Command.Waits93;
+  }
+
+  bool Ended_With_Power_Off() const {
+    static const std::vector<Bytes> kOff{{'m', 'w', 'a', 0x00}, {'m', 'w', 'b', 0x00}, {'m', 'w', 'c', 0x80},
+                                         {'m', 't', 'a', 0xFF}, {'m', 't', 'b', 0xFF}, {'m', 't', 'c', 0x7F}};
+    auto last = Bench.Commands.rbegin();
+    while (last != Bench.Commands.rend() && last->size() == 3) ++last;  // Its read-backs.
+    return std::equal(kOff.rbegin(), kOff.rend(), last);
+  }
+
+  // The last read-back of the power-off is the one that failed.
+  std::string Error_Text() const {
+    if (!On_The_Bus()) {
+      const bool answered = Bench.Received >= 17;
+      const char* reason = Faulty.Gone() ? "ポートが切断されました。" : "";
+      return std::string("プログラマ接続確認エラー。") + (answered ? "" : "【1】") + reason;
+    }
+    const char port = static_cast<char>(Bench.Commands.back()[2] - 'a' + 'A');
+    return (c.Device.Family == 2 ? "24Cxx" : "93Cxx") + std::string(" Power on Port") + port + " error";
+  }
+
+  // A cell in the block is what it was or what it shall be.
+  bool Chip_Untouched_Elsewhere() const {
+    const auto cells = Bench.Cells->Cells();
+    for (std::size_t at = 0; at < cells.size(); ++at)
+      if (cells[at] != Chip[at] && cells[at] != WantedChip[at]) return false;
+    return true;
+  }
+
+  // The chip's bytes up to the one in hand, which may be anything, and 0xFF behind it.
+  bool Read_So_Far(const Fault& fault) const {
+    std::size_t at = 0;
+    if (fault.As == Ends::Noticed)
+      while (at < kBlock && ImageBuffer[at] == Chip[at]) ++at;
+    else
+      at = kBlock;
+    while (++at < kDevice)
+      if (ImageBuffer[at] != 0xFF) return false;
+    return true;
+  }
+
+  Bytes Image, Chip, WantedImage, WantedChip;
+  std::string Shown;
+};
+
+class Fault_Sweep : public testing::TestWithParam<Case> {
+ protected:
+  // "sweep: 24C02 4.90 block_read runs 5696 untold 128": one line a test, for whoever adds them up.
+  template <class... Counts>
+  static void Tell(Counts... counts) {
+    std::ostringstream line;
+    line << "sweep: " << testing::PrintToString(GetParam());
+    ((line << ' ' << counts), ...);
+    std::puts(line.str().c_str());
+  }
+};
+
+TEST_P(Fault_Sweep, EveryFaultAtEveryPlace) {
+  std::size_t runs = 0, untold = 0, flashed = 0;
+  for (const Fault& fault : All_Faults()) {
+    bool met = true;
+    for (std::uint64_t n = 1; met; ++n, ++runs) {
+      One_Run run(GetParam());
+      if (fault.Of)
+        run.Faulty.Arm(fault.Of(n));
+      else
+        run.Bench.Takes = [&](std::size_t write) { return fault.Once ? write != n : write < n; };
+      run.Go();
+      met = fault.Of ? run.Faulty.Met() : run.Bench.Commands.size() >= n;
+      std::string violation = run.Violation(fault);
+      const bool may_pass = !met || (fault.Once && n == 1) || fault.As != Ends::Noticed;
+      if (violation.empty() && LinkError == 0 && !may_pass) violation = "nobody noticed";
+      if (violation.empty() && LinkError != 0 && (!met || (fault.As == Ends::Right && n > 1)))
+        violation = "an error where there is none";
+      ASSERT_EQ(violation, "") << testing::PrintToString(GetParam()) << ", " << fault.Name << ", n = " << n;
+      if (LinkError == 0 && !run.Data_Right()) ++(run.Flashed ? flashed : untold);
+    }
+  }
+  Tell("runs", runs, "untold", untold, "flashed", flashed);
+}
+
+TEST_P(Fault_Sweep, TheWindowClosedAtEveryYield) {
+  static const Fault kNone{"window closed", nullptr, Ends::Right_Or_Noticed};
+  std::size_t runs = 0;
+  for (bool met = true; met; ++runs) {
+    One_Run run(GetParam());
+    std::size_t yields = 0;
+    run.Bench.On_Yield = [&] {
+      if (++yields != runs + 1) return;
+      frmMain.Close();
+      ASSERT_FALSE(run.Bench.Ended);
+    };
+    run.Go();
+    met = yields > runs;
+    ASSERT_EQ(run.Bench.Ended, met);
+    ASSERT_EQ(run.Violation(kNone), "") << testing::PrintToString(GetParam()) << ", yield " << runs + 1;
+    ASSERT_EQ(run.Bench.Stored.contains("MainLeft"), met);
+  }
+  Tell("closings", runs - 1);
+}
+
+TEST_P(Fault_Sweep, NothingElseCanBeReachedAtAnyYield) {
+  // What has no command of its own may stay as it is.
+  const auto harmless = [](Control* control) {
+    return dynamic_cast<Label*>(control) || dynamic_cast<Line*>(control) ||
+           dynamic_cast<StatusBar*>(control) ||
+           (dynamic_cast<Frame*>(control) && control != &frmMain.Frame1) ||
+           (dynamic_cast<Menu*>(control) && !dynamic_cast<Menu*>(control)->Click);
+  };
+  One_Run run(GetParam());
+  std::size_t yields = 0;
+  run.Bench.On_Yield = [&] {
+    ++yields;
+    for (Control* control : frmMain.Controls()) ASSERT_TRUE(harmless(control) || !control->Reachable());
+  };
+  run.Go();
+  EXPECT_GT(yields, 40U);
+}
+
+std::vector<Case> All_Cases() {
+  std::vector<Case> cases;
+  for (const Form& form : kForms)
+    for (const Transfer& transfer : kTransfers) cases.push_back({transfer, form});
+  return cases;
+}
+
+INSTANTIATE_TEST_SUITE_P(All, Fault_Sweep, testing::ValuesIn(All_Cases()), [](const auto& test) {
+  std::string firmware = test.param.Command.Firmware;
+  std::erase(firmware, '.');
+  return std::string(test.param.Device.Chip) + "_" + firmware + "_" + test.param.Command.Name;
+});
+
+}  // namespace
+}  // namespace wrenbit
