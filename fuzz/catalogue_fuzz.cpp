@@ -1,0 +1,58 @@
+// Any bytes as wrenbit.ini: read as at the start, then the first devices selected and their transfers asked
+// for, on a port that is not there.
+#include <algorithm>
+#include <string_view>
+
+#include "catalogue_text.h"
+#include "code_page_932.h"
+#include "frm_main.h"
+#include "image_buffer.h"
+#include "must_hold.h"
+#include "test_bench.h"
+#include "transfer_commands.h"
+
+using namespace wrenbit;
+
+namespace {
+
+// As powers of two. The sizes between differ in nothing but the time that they take.
+constexpr int kSmallSize = 10;
+constexpr int kGreatestSize = 23;  // Of a device that has an image.
+constexpr std::size_t kRowsTried = 4;
+
+void Select_And_Try(int index) {
+  Must_Hold(frmMain.Combo_device.Set_ListIndex(index), "a listed device can be selected");
+  Must_Hold(ImageBuffer.empty() || ImageBuffer.size() == std::size_t{1} << MemSize,
+            "the image is as large as the device, or there is none");
+  Must_Hold(ImageBuffer.empty() == (frmMain.CmbSize.ListCount() == 0), "an image has block sizes");
+  Must_Hold(ImageBuffer.empty() || AccessSize <= MemSize, "no block is larger than the device");
+  for (CommandButton* button :
+       {&frmMain.Cmd_READ_all, &frmMain.Cmd_WRITE_all, &frmMain.Cmd_READ_single, &frmMain.Cmd_WRITE_single})
+    button->Click();
+  Must_Hold(frmMain.Cmd_READ_all.Reachable(), "the controls come back");
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  static Test_Bench bench;
+  bench.Refusal = Port_Fault::No_Such_Port;
+  frmMain.Ensure_Loaded();
+
+  const std::string_view bytes(reinterpret_cast<const char*>(data), size);
+  Catalogue catalogue = Read_Catalogue(Utf8_From_Cp932(bytes));
+  Must_Hold(catalogue.Rows.size() <= kTableRows, "the table holds the rows");
+  DeviceTable = std::move(catalogue.Rows);
+  frmMain.Combo_device.Clear();
+  for (const Device_Row& row : DeviceTable) {
+    Must_Hold(!row[kName].empty(), "a device has a name");
+    for (const std::string& cell : row)
+      Must_Hold(cell.find_first_of(" \t") == cell.npos, "a cell is one word");
+    frmMain.Combo_device.AddItem(row[kName]);
+  }
+  for (std::size_t row = 0; row < std::min(kRowsTried, DeviceTable.size()); ++row) {
+    const std::int32_t power = Number_Cell(DeviceTable[row], kMemSize);
+    if (power <= kSmallSize || power > kGreatestSize) Select_And_Try(static_cast<int>(row));
+  }
+  return 0;
+}
