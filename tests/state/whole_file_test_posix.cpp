@@ -1,12 +1,14 @@
 #include <gtest/gtest.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 #include <csignal>
 #include <cstring>
 #include <fstream>
 
+#include "plain_user_posix.h"
 #include "temporary_folder.h"
 #include "whole_file.h"
 
@@ -26,20 +28,6 @@ mode_t Mode(const std::string& path) {
   EXPECT_EQ(stat(path.c_str(), &status), 0) << path;
   return status.st_mode & 07777;
 }
-
-// Permissions mean nothing to root, so such a test goes on as nobody.
-class Plain_User {
- public:
-  Plain_User() : was_root(geteuid() == 0), plain(!was_root || seteuid(65534) == 0) {}
-  ~Plain_User() {
-    if (was_root && plain && seteuid(0) != 0) std::abort();
-  }
-  explicit operator bool() const { return plain; }
-
- private:
-  const bool was_root;
-  const bool plain;
-};
 
 // A file may grow to so many bytes and no further, as on a disk that fills up: write takes a part, then
 // fails.
@@ -132,6 +120,29 @@ TEST(WholeFile, AFullDiskLeavesTheOldFileAndNothingBesideIt) {
   }
   EXPECT_EQ(Read_Whole_File(folder / "a.hex"), "old");
   EXPECT_EQ(folder.Entries(), 1);
+}
+
+TEST(WholeFile, AProcessKilledInTheMidstLeavesTheOldFile) {
+  for (const rlim_t at : {0u, 1u, 5000u}) {
+    const Temporary_Folder folder;
+    std::ofstream(folder / "a.hex") << "old";
+    const pid_t child = fork();
+    if (child == 0) {
+      const rlimit none{0, 0},
+          kills_at{at, at};  // No core file; the signal that ends a file that is too long.
+      setrlimit(RLIMIT_CORE, &none);
+      setrlimit(RLIMIT_FSIZE, &kills_at);
+      Write_Whole_File(folder / "a.hex", std::string(10000, 'x'));
+      _exit(0);
+    }
+    int status = 0;
+    ASSERT_EQ(waitpid(child, &status, 0), child);
+    ASSERT_TRUE(WIFSIGNALED(status)) << "it was to be killed at byte " << at;
+    EXPECT_EQ(Read_Whole_File(folder / "a.hex"), "old");
+    for (const auto& left : fs::directory_iterator(folder.Path()))
+      EXPECT_TRUE(left.path().filename() == "a.hex" ||
+                  left.path().filename().string().starts_with(".wrenbit-"));
+  }
 }
 
 TEST(WholeFile, RefusesAFileOrFolderThatTheUserMayNotWrite) {
