@@ -16,7 +16,7 @@ constexpr int kSmallestBlock = 4;  // As a power of two: 16 bytes.
 std::string Size_Text() {
   // A power that no chip has would not fit the number either.
   const long bytes = MemSize >= 0 && MemSize < 31 ? 1L << MemSize : 0;
-  const std::string memory = "Mem. Size: " + std::to_string(bytes) + " byte";
+  std::string memory = "Mem. Size: " + std::to_string(bytes) + " byte";
   switch (DeviceFamily) {
     case 2:
       return memory + "\r\nPage Size: " + std::to_string(PageSize) + " byte";

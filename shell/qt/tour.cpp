@@ -15,8 +15,8 @@
 #include <QTest>
 #include <QTimer>
 #include <algorithm>
-#include <cstdio>
 #include <cstdlib>
+#include <iostream>
 #include <optional>
 #include <stdexcept>
 
@@ -31,10 +31,7 @@ namespace {
 
 constexpr int kPatience = 120'000;  // Milliseconds for the whole tour.
 
-void Say(const std::string& line) {
-  std::puts(line.c_str());
-  std::fflush(stdout);
-}
+void Say(const std::string& line) { std::cout << line << std::endl; }
 
 void Require(bool met, const std::string& what) {
   if (!met) throw std::runtime_error(what);
