@@ -65,7 +65,8 @@ std::array<std::string, kLineCells> Split_Line(std::string_view record) {
 
 Catalogue Read_Catalogue(std::string_view text) {
   Catalogue catalogue;
-  for (Text_Field_Reader reader(text, Quotes::Honoured); !reader.At_End();) {
+  Text_Field_Reader reader(text, Quotes::Honoured);
+  while (!reader.At_End() && catalogue.Problems.size() < kMostProblems) {
     const std::string expanded = Expand_Tabs(reader.Next());
     const std::string_view record = Trim(expanded);
     if (record.find("Ver") != record.npos)

@@ -49,7 +49,11 @@ struct Catalogue {
   std::vector<std::string> Problems;  // One line each, in Japanese: rows left out, numbers that are none.
 };
 
-// UTF-8 in. Any text gives a catalogue, if an empty one.
+// What is read no further is no catalogue but some other file, perhaps a very large one.
+inline constexpr std::size_t kMostProblems = 1000;
+
+// UTF-8 in. Any text gives a catalogue, if an empty one. Ends early where it would have more problems than
+// the most.
 Catalogue Read_Catalogue(std::string_view text);
 
 // A number column as the program uses it: empty and no number are 0.

@@ -80,6 +80,9 @@ TEST(Catalogue_Text, RowsBehindTheTablesEndAreToldAndLeftOut) {
   EXPECT_EQ(catalogue.Rows.size(), 101U);
   ASSERT_EQ(catalogue.Problems.size(), 2U);
   EXPECT_NE(catalogue.Problems[0].find("102行目: D101"), std::string::npos);
+
+  for (int i = 0; i < 2000; ++i) text += "too many\n";
+  EXPECT_EQ(Read_Catalogue(text).Problems.size(), kMostProblems) << "a vast file takes no vast memory";
 }
 
 }  // namespace

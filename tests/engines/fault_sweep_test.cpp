@@ -179,8 +179,10 @@ class One_Run {
     // What is where.
     if (ImageBuffer.size() != kDevice) return "the image has another size";
     if (!Chip_Untouched_Elsewhere()) return "a cell outside the block has changed";
-    if (done && !Data_Right() && fault.As != Ends::Perhaps_Wrong) return "wrong data, said to be done";
     const bool read = !c.Command.Writes;
+    if (done && !Data_Right() && !(read && fault.As == Ends::Perhaps_Wrong))
+      return "wrong data, said to be done";
+    if (done && !Right_Elsewhere()) return "bytes that were not asked for have changed";
     if ((!read || (!done && !c.Command.Block)) && ImageBuffer != Image) return "the image has changed";
     if (read && c.Command.Block && !done && !Read_So_Far(fault)) return "the image is no part of the chip";
     if (Bench.Ended) return {};
@@ -224,6 +226,13 @@ class One_Run {
     const auto cells = Bench.Cells->Cells();
     for (std::size_t at = 0; at < cells.size(); ++at)
       if (cells[at] != Chip[at] && cells[at] != WantedChip[at]) return false;
+    return true;
+  }
+
+  bool Right_Elsewhere() const {
+    for (std::size_t at = 0; at < kDevice; ++at)
+      if (ImageBuffer[at] != WantedImage[at] && !(c.Command.Block ? at < kBlock : at == kByteAt))
+        return false;
     return true;
   }
 
