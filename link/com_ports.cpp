@@ -30,8 +30,9 @@ std::optional<Serial_Device> Device_Of_Com(int number, const std::filesystem::pa
   if (number < 1 || number > kComPorts) return std::nullopt;
   const std::filesystem::path link = ports_folder / ("COM" + std::to_string(number));
   std::error_code ignored;
-  if (std::filesystem::is_symlink(link, ignored) && std::filesystem::is_character_file(link, ignored) &&
+  if (std::filesystem::is_symlink(link, ignored) &&
       !Lock_Was_Left_Behind(ports_folder / (link.filename().string() + ".lock"))) {
+    if (!std::filesystem::is_character_file(link, ignored)) return std::nullopt;
     const std::string path = std::filesystem::canonical(link, ignored).string();
     const auto known = std::find_if(in_com_order.begin(), in_com_order.end(),
                                     [&](const Serial_Device& device) { return device.Path == path; });

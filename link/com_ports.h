@@ -26,10 +26,11 @@ std::vector<Serial_Device> In_Com_Order(std::vector<Serial_Device> devices);
 // tells of its devices.
 std::vector<Serial_Device> Serial_Devices_Present(const std::filesystem::path& system_folder = "/sys");
 
-// The device of COMn: the target of the link ports_folder/COMn when that is a device that lives, else the
-// n-th of the devices in COM order. Nothing when n is outside 1 to 20 or no device is left for it. A virtual
-// board holds a lock on COMn.lock beside its link; a link whose lock nobody holds was left behind by a board
-// that was killed, and counts as absent.
+// The device of COMn: the target of the link ports_folder/COMn, else the n-th of the devices in COM order.
+// Nothing when n is outside 1 to 20 or no device is left for it, and nothing when the link leads to no
+// device: no other one takes the place of an adapter that is unplugged. A virtual board holds a lock on
+// COMn.lock beside its link; a link whose lock nobody holds was left behind by a board that was killed, and
+// counts as absent.
 std::optional<Serial_Device> Device_Of_Com(int number, const std::filesystem::path& ports_folder,
                                            const std::vector<Serial_Device>& in_com_order);
 

@@ -24,6 +24,8 @@ constexpr std::string_view kWord = "TOLVEX";
 constexpr std::size_t kTextLength = 15;
 constexpr std::size_t kVersionAt = 11;
 constexpr std::size_t kReplyLength = 17;
+constexpr int kSettle = 50;      // Milliseconds from the first query to the second.
+constexpr int kSettleStep = 10;  // In which a port that goes is noticed.
 constexpr std::size_t kAnyNumber = std::numeric_limits<std::size_t>::max();
 
 constexpr const char* kLimits256 =
@@ -120,7 +122,7 @@ void Read_Version() {
 
   // The first query wakes the board and clears its parser; what it says to it is dropped.
   Query();
-  Sleep(50);
+  for (int slept = 0; slept < kSettle && !MSComm1.Lost(); slept += kSettleStep) Sleep(kSettleStep);
   DoEvents();
   const std::size_t first = MSComm1.InBufferCount();
   const double asked = Timer();

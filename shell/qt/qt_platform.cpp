@@ -45,6 +45,15 @@ QString Name_Of(Message_Icon icon) {
   return {};
 }
 
+// Directly behind a file dialog no window is active yet; a message box without a parent could come to lie
+// under the window that it blocks.
+QWidget* Window_In_Front() {
+  if (QWidget* active = QApplication::activeWindow()) return active;
+  for (QWidget* window : QApplication::topLevelWidgets())
+    if (window->isVisible() && !window->parent()) return window;
+  return nullptr;
+}
+
 }  // namespace
 
 void Qt_Platform::DoEvents() { QCoreApplication::processEvents(); }
@@ -67,7 +76,7 @@ bool Qt_Platform::MsgBox(const std::string& text, Message_Icon icon, Message_But
   QMessageBox box(Icon_Of(icon), QString::fromStdString(title),
                   QString::fromStdString(text).replace(QStringLiteral("\r\n"), QStringLiteral("\n")),
                   buttons == Message_Buttons::Ok ? QMessageBox::Ok : QMessageBox::Ok | QMessageBox::Cancel,
-                  QApplication::activeWindow());
+                  Window_In_Front());
   box.setTextFormat(Qt::PlainText);
   if (auto* picture = box.findChild<QLabel*>("qt_msgboxex_icon_label"))
     picture->setAccessibleName(Name_Of(icon));

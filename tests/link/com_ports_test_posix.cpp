@@ -57,10 +57,11 @@ TEST(Com_Ports, TheSystemTellsWhatIsThereAndWhoMadeIt) {
 struct Links : testing::Test {
   const Temporary_Folder temporary;
   const std::filesystem::path folder = temporary.Path();
-  const std::vector<Serial_Device> one_adapter{{"/dev/ttyUSB0", true, "Maker", "Product"}};
+  const std::vector<Serial_Device> present{
+      {"/dev/ttyUSB0", true, "Maker", "Product"}, {"/dev/ttyS0"}, {"/dev/ttyS1"}};
 
   std::optional<std::string> Path_Of_Com(int number) const {
-    const auto device = Device_Of_Com(number, folder, one_adapter);
+    const auto device = Device_Of_Com(number, folder, present);
     return device ? std::optional(device->Path) : std::nullopt;
   }
 
@@ -71,11 +72,13 @@ struct Links : testing::Test {
   }
 };
 
-TEST_F(Links, ALinkToADeviceWinsAndAnyOtherCountsAsAbsent) {
+TEST_F(Links, ALinkDecidesAlsoWhenNothingIsBehindIt) {
   EXPECT_EQ(Path_Of_Com(1), "/dev/null");
   EXPECT_EQ(Path_Of_Com(2), std::nullopt);
   EXPECT_EQ(Path_Of_Com(3), std::nullopt);
-  EXPECT_EQ(Device_Of_Com(1, folder / "none", one_adapter)->Product, "Product");
+  std::filesystem::remove(folder / "COM3");
+  EXPECT_EQ(Path_Of_Com(3), "/dev/ttyS1");
+  EXPECT_EQ(Device_Of_Com(1, folder / "none", present)->Product, "Product");
   for (const int outside : {-1, 0, 21}) EXPECT_EQ(Path_Of_Com(outside), std::nullopt);
 }
 

@@ -50,6 +50,20 @@ TEST_F(Handshake_Test, CostsItsPauseAndTheWireAndNothingElse) {
   EXPECT_NEAR(bench.Now() - before, 0.05 + 18 * 10.0 / 9600, 0.002);
 }
 
+TEST_F(Handshake_Test, APortThatGoesDuringThePauseIsNoticedBeforeItIsOver) {
+  struct Leaving : board::Wire_End {
+    explicit Leaving(const Test_Bench& at) : bench(at) {}
+    board::Answer Receive(std::uint8_t) override { return {}; }
+    bool Gone() const override { return bench.Now() > from + 0.012; }
+    const Test_Bench& bench;
+    const double from = bench.Now();
+  } leaving(bench);
+  bench.Board = &leaving;
+  Read_Version();
+  EXPECT_LT(bench.Now() - leaving.from, 0.030);
+  EXPECT_EQ(Panel(1), "プログラマ接続確認エラー。【1】ポートが切断されました。");
+}
+
 TEST_F(Handshake_Test, NoPartOfALongAnswerIsTakenForTheNextReply) {
   for (const std::size_t length : {17U, 18U, 20U, 45U})
     for (const bool twice : {true, false}) {
