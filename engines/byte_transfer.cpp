@@ -6,14 +6,8 @@
 #include "frm_main.h"
 #include "refusal.h"
 #include "state.h"
-#include "verdict.h"
 
 namespace wrenbit {
-namespace {
-
-void Tell_End() { frmMain.sbStatusBar.Set_Panel(1, "Finsh"); }
-
-}  // namespace
 
 bool Byte_Cell_Ready() {
   if (frmMain.MSFGrid1.Col() == kAsciiCol) frmMain.MSFGrid1.Set_Col(kLastByteCol);
@@ -23,15 +17,12 @@ bool Byte_Cell_Ready() {
 }
 
 void Finish_Byte_Read(std::uint8_t byte) {
-  if (Transfer_Failed()) return;
   ImageBuffer[static_cast<std::size_t>(Current_Address())] = byte;
   frmMain.MSFGrid1.Set_Text(Byte_Cell(byte));
   MSFGrid1_Click();
-  Tell_End();
+  Tell_Byte_Done();
 }
 
-void Finish_Byte_Write() {
-  if (!Transfer_Failed()) Tell_End();
-}
+void Tell_Byte_Done() { frmMain.sbStatusBar.Set_Panel(1, "Finsh"); }
 
 }  // namespace wrenbit

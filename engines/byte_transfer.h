@@ -9,11 +9,10 @@ namespace wrenbit {
 // port is touched: false.
 bool Byte_Cell_Ready();
 
-// Unless the transfer failed, the byte goes into the image and the current cell, the edit panel follows, and
-// panel 1 says the end.
+// The byte goes into the image and the current cell, the edit panel follows, and panel 1 says the end.
 void Finish_Byte_Read(std::uint8_t byte);
 
-// Unless the transfer failed, panel 1 says the end.
-void Finish_Byte_Write();
+// Panel 1 says the end.
+void Tell_Byte_Done();
 
 }  // namespace wrenbit

@@ -6,6 +6,7 @@
 #include "cell_address.h"
 #include "handshake.h"
 #include "state.h"
+#include "verdict.h"
 
 namespace wrenbit {
 namespace {
@@ -41,7 +42,7 @@ void C24_ByteRead() {
   C24_Bit1();  // No acknowledge for the last byte.
   C24_StopBit();
   C24_Power_off();
-  Finish_Byte_Read(byte);
+  if (!Transfer_Failed()) Finish_Byte_Read(byte);
 }
 
 void C24_ByteWrite() {
@@ -52,7 +53,7 @@ void C24_ByteWrite() {
   Send_Checked(ImageBuffer[static_cast<std::size_t>(address)]);
   C24_StopBit();
   C24_Power_off();
-  Finish_Byte_Write();
+  if (!Transfer_Failed()) Tell_Byte_Done();
 }
 
 }  // namespace wrenbit

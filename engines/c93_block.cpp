@@ -63,7 +63,7 @@ void C93_AllWrite() {
     if (LinkError) break;
   }
   C93_Power_off();
-  if (Transfer_Failed()) return;
+  if (LinkError) return;
   Tell_Duration("書き込み終了。");
 }
 

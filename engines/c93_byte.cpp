@@ -22,7 +22,7 @@ void C93_ByteRead() {
   C93_CS_Low();
   C93_Power_off();
   Await_Stray_Answer();
-  Finish_Byte_Read(byte);
+  if (!Transfer_Failed()) Finish_Byte_Read(byte);
 }
 
 void C93_ByteWrite() {
@@ -38,7 +38,7 @@ void C93_ByteWrite() {
   C93_CS_Low();
   C93_Power_off();
   MSFGrid1_Click();
-  Finish_Byte_Write();
+  if (!LinkError) Tell_Byte_Done();
 }
 
 }  // namespace wrenbit

@@ -6,8 +6,9 @@
 #include "state.h"
 
 namespace wrenbit {
-
 namespace {
+
+constexpr int kTries = 5;
 
 // Latches first: a pin that turns into an output already has its level.
 void Drive(const Power_Sequence& to) {
@@ -22,12 +23,11 @@ void Drive(const Power_Sequence& to) {
 }  // namespace
 
 void Run_Power_Sequence(const Power_Sequence& to, const std::string& family) {
-  MSComm1.Resume();
-  Drive(to);
-  // No socket stays powered for one command that the system would not take.
-  if (MSComm1.Refused()) {
+  // No socket stays powered because the system would not take a command.
+  for (int tries = 0; tries < kTries; ++tries) {
     MSComm1.Resume();
     Drive(to);
+    if (!MSComm1.Refused()) break;
   }
 
   const auto good = [&](std::uint8_t pins, std::uint8_t watched, std::uint8_t expected, const char* port) {

@@ -16,9 +16,9 @@ struct Power_Sequence {
   Port_Values Expected;
 };
 
-// Drives all, and once more when the system refused any of it, then reads the ports back in turn. The first
-// one whose pins are not as expected, or that finds LinkError set, ends the reading with `family` + " Power
-// on PortA error" (or B, or C) in panel 1. Never sets LinkError for a mismatch.
+// Drives all, up to five times where the system refuses any of it, then reads the ports back in turn. The
+// first one whose pins are not as expected, or that finds LinkError set, ends the reading with `family` + "
+// Power on PortA error" (or B, or C) in panel 1. Never sets LinkError for a mismatch.
 void Run_Power_Sequence(const Power_Sequence& to, const std::string& family);
 
 }  // namespace wrenbit

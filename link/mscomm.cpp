@@ -17,7 +17,6 @@ Port_Fault MSComm::Open() {
   open = fault == Port_Fault::None;
   byte_time = kWireByteTime;
   wire_free = 0;
-  unasked = 0;
   refused = false;
   return fault;
 }

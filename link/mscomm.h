@@ -34,10 +34,11 @@ class Serial_Backend {
   virtual bool Lost() = 0;
   // Bytes that have arrived and are not yet taken.
   virtual std::size_t Waiting() = 0;
+  // All that Waiting told of, at least.
   virtual std::vector<std::uint8_t> Take() = 0;
   virtual void Drop() = 0;
-  // Goes out at once and in one piece. False when the port is lost or the system refuses: of these bytes
-  // nothing more goes out then, and of earlier ones those are lost that the system still held.
+  // Goes out at once and in one piece. False when the port is lost or the system refuses, which may take a
+  // tenth of a second: a part of these bytes may have gone out then, and the rest never does.
   virtual bool Write(std::span<const std::uint8_t> bytes) = 0;
 };
 
@@ -62,8 +63,8 @@ class MSComm {
   // On a closed port there is nothing to read, and what is sent is dropped.
   std::size_t InBufferCount() { return open ? backend->Waiting() : 0; }
   void Clear_InBuffer();
-  // Bytes that came without being asked for, since the open or since Forget_Unasked: those that
-  // Clear_InBuffer threw away, and those that came with a reply and were counted here.
+  // Bytes that came without being asked for, since Forget_Unasked: those that Clear_InBuffer threw away, and
+  // those that came with a reply and were counted here.
   std::size_t Unasked() const { return unasked; }
   void Count_Unasked(std::size_t bytes) { unasked += bytes; }
   void Forget_Unasked() { unasked = 0; }

@@ -57,7 +57,7 @@ Port_Fault Qt_Serial::Open(int number, bool rts, bool dtr) {
 }
 
 void Qt_Serial::Close() {
-  lost = stuck = false;
+  lost = false;
   port.close();
 }
 
@@ -96,12 +96,11 @@ bool Qt_Serial::Write(std::span<const std::uint8_t> bytes) {
   if (Lost() || !port.isOpen()) return false;
   port.write(reinterpret_cast<const char*>(bytes.data()), static_cast<qint64>(bytes.size()));
   port.flush();
-  // A full buffer of the system empties in time, but a port that takes nothing any more must not cost that
-  // time again for each command. What is refused must not be tried over and over either.
-  while (port.bytesToWrite() > 0 && port.waitForBytesWritten(stuck ? 0 : kPatience)) continue;
-  stuck = port.bytesToWrite() > 0;
-  if (stuck) port.clear(QSerialPort::Output);
-  return !stuck;
+  // A full buffer of the system empties in time.
+  while (port.bytesToWrite() > 0 && port.waitForBytesWritten(kPatience)) continue;
+  if (port.bytesToWrite() == 0) return true;
+  port.clear(QSerialPort::Output);  // Else it would be tried over and over.
+  return false;
 }
 
 }  // namespace wrenbit

@@ -27,7 +27,6 @@ class Qt_Serial : public Serial_Backend {
   std::filesystem::path folder;
   QSerialPort port;
   bool lost = false;
-  bool stuck = false;  // The last write was refused.
 };
 
 }  // namespace wrenbit

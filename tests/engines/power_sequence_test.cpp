@@ -67,17 +67,5 @@ TEST(Power_Sequence, NamesThePortOfALineThatDoesNotFollowAndSetsNoFlag) {
   }
 }
 
-TEST(Power_Sequence, WaitsOneSecondForASilentBoardAndAsksNoMore) {
-  for (const Family& family : {k24, k93}) {
-    Chip_Bench bench(family.Chip, "5.00", true);
-    bench.Board = nullptr;
-    const double before = bench.Now();
-    family.On();
-    EXPECT_NEAR(bench.Now() - before, 1.0, 0.05);
-    EXPECT_EQ(Panel(1), std::string(family.Name) + " Power on PortA error");
-    EXPECT_EQ(LinkError, 1);
-  }
-}
-
 }  // namespace
 }  // namespace wrenbit

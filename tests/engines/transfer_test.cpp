@@ -28,17 +28,6 @@ TEST(Block_Transfer, ABlockSmallerThanTheChipLeavesTheRestAlone) {
   }
 }
 
-TEST(Block_Transfer, APageThatDoesNotDivideTheBlockEndsAtItsLastByte) {
-  Chip_Bench bench("24C64", "5.00");
-  bench.Fill_Image(7);
-  const Bytes image = ImageBuffer;
-  PageSize = 24;
-  AddressMode = 2;
-  Cmd_WRITE_all_Click();
-  EXPECT_EQ(LinkError, 0);
-  EXPECT_EQ(ImageBuffer, image);
-}
-
 TEST(Block_Transfer, ThePercentageMovesAtEachWholeNumber) {
   for (const auto& [chip, run] : {std::pair{"24C00", &Cmd_READ_all_Click},
                                   {"AT93C46", &Cmd_READ_all_Click},

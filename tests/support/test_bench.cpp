@@ -116,7 +116,8 @@ void Test_Bench::Drop() {
 bool Test_Bench::Write(std::span<const std::uint8_t> bytes) {
   End_Gap();
   Commands.emplace_back(bytes.begin(), bytes.end());
-  if (Takes && !Takes(Commands.size())) return false;
+  const bool taken = !Takes || Takes(Commands.size());
+  if (!taken) bytes = bytes.first(std::min(Partly, bytes.size() - 1));
   for (const std::uint8_t byte : bytes) {
     Sent.push_back(byte);
     out_free = std::max(out_free, now) + ByteTime;
@@ -127,7 +128,7 @@ bool Test_Bench::Write(std::span<const std::uint8_t> bytes) {
       arriving.push_back({back_free, said});
     }
   }
-  return !Lost();
+  return taken && !Lost();
 }
 
 board::Answer Scripted_Board::Receive(std::uint8_t) {

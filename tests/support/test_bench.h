@@ -30,6 +30,7 @@ class Test_Bench : private Platform, private Settings_Store, private Serial_Back
   Bytes Sent;                              // All bytes that went out.
   std::vector<Bytes> Commands;             // The same, a write each; those that were refused too.
   std::function<bool(std::size_t)> Takes;  // Whether the system takes the write of this number, from 1 on.
+  std::size_t Partly = 0;                  // Bytes that go out of a write that is refused.
   std::size_t Received = 0;                // Bytes that the program took.
   std::size_t Waits = 0;                   // How often it rested for an event.
   double LongestGap = 0;                   // Seconds between two writes, or the last one and the close.
@@ -39,7 +40,7 @@ class Test_Bench : private Platform, private Settings_Store, private Serial_Back
   double ByteTime = 10.0 / 9600;           // Seconds a byte on the wire.
   bool Is_Open() const { return open; }
   // A byte that lies in the receive buffer now.
-  void Leave_In_Buffer(std::uint8_t byte) { arriving.push_back({now, byte}); }
+  void Leave_In_Buffer(std::uint8_t byte) { arriving.push_front({now, byte}); }
   void Forget_Traffic();
 
   // --- The platform.
