@@ -109,6 +109,7 @@ std::optional<std::string> Read_Whole_File(const std::string& path) {
 
 std::optional<std::string> Write_Whole_File(const std::string& path, std::string_view text) {
   const fs::path goal = Behind_Links(path);
+  if (goal.empty()) return Reason(ENOENT);
   struct stat old {};
   const bool replaces = stat(goal.c_str(), &old) == 0;
   if (!replaces && errno != ENOENT) return Reason(errno);
