@@ -70,7 +70,7 @@ void Grid_Refill() {
   frmMain.Set_MousePointer(Pointer::Hourglass);
   const std::string message = frmMain.sbStatusBar.Panel(1);
   frmMain.sbStatusBar.Set_Panel(1, kPleaseWait);
-  DoEvents();
+  ThePlatform->Repaint();
   frmMain.MSFGrid1.Set_Visible(false);
   Fill_Rows();
   // In an empty grid there is no row of bytes, and the header stays current.

@@ -36,6 +36,8 @@ class Platform {
   virtual ~Platform() = default;
   // Delivers pending events, then comes back.
   virtual void DoEvents() = 0;
+  // Lets what has changed so far show. What the user does meanwhile waits.
+  virtual void Repaint() = 0;
   // Delivers pending events; when there are none, rests until one comes, at most for so many seconds.
   // A byte on the serial port is an event.
   virtual void Await_Event(double seconds) = 0;

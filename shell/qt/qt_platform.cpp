@@ -58,6 +58,8 @@ QWidget* Window_In_Front() {
 
 void Qt_Platform::DoEvents() { QCoreApplication::processEvents(); }
 
+void Qt_Platform::Repaint() { QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents); }
+
 void Qt_Platform::Await_Event(double seconds) {
   // A wait for events knows no limit of its own.
   QTimer limit;

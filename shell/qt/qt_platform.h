@@ -13,6 +13,7 @@ class Qt_Platform : public Platform {
  public:
   Qt_Platform() { clock.start(); }
   void DoEvents() override;
+  void Repaint() override;
   void Await_Event(double seconds) override;
   double Timer() override;
   void Sleep(int milliseconds) override;

@@ -73,7 +73,8 @@ TEST_F(Hex_Grid, ARefillSelectsTheFirstByteAndKeepsTheMessage) {
   frmMain.MSFGrid1.Set_Col(9);
   frmMain.sbStatusBar.Set_Panel(1, "before");
   std::string during;
-  bench.On_Yield = [&] { during = frmMain.sbStatusBar.Panel(1); };
+  bench.On_Yield = [] { ADD_FAILURE() << "what the user does could come in between"; };
+  bench.On_Repaint = [&] { during = frmMain.sbStatusBar.Panel(1); };
   Grid_Refill();
   EXPECT_EQ(during, "しばらくお待ちください。");
   EXPECT_EQ(frmMain.sbStatusBar.Panel(1), "before");

@@ -242,18 +242,5 @@ TEST(Transfer_Failure, AFamilyWithoutAnEngineSendsNothing) {
     }
 }
 
-TEST(Transfer_Failure, ABlockReadInTheMidstOfADeviceChangeStaysInTheImage) {
-  Chip_Bench bench("24C1024", "5.00");
-  Select_Device(2, 0, 8, 1);
-  bool read = false;
-  bench.On_Yield = [&] {
-    if (std::exchange(read, true)) return;
-    Cmd_READ_all_Click();
-  };
-  Select_Device(2, 4, 1, 1);
-  EXPECT_TRUE(read);
-  EXPECT_EQ(ImageBuffer.size(), 16U);
-}
-
 }  // namespace
 }  // namespace wrenbit

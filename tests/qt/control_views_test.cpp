@@ -17,6 +17,7 @@
 
 #include "form_view.h"
 #include "lists_and_boxes.h"
+#include "platform.h"
 
 namespace wrenbit {
 namespace {
@@ -235,6 +236,21 @@ TEST_F(Views, AListAsksForItsTipsWhenTheyAreToBeShown) {
   list.showPopup();
   EXPECT_EQ(list.itemData(2, Qt::ToolTipRole), "2: plugged in");
   list.hidePopup();
+}
+
+TEST_F(Views, ARepaintShowsWhatHasJustChanged) {
+  struct : QObject {
+    int Times = 0;
+    bool eventFilter(QObject*, QEvent* event) override {
+      if (event->type() == QEvent::Paint) ++Times;
+      return false;
+    }
+  } painted;
+  ThePlatform->DoEvents();
+  window->View_Of(form.Wired)->installEventFilter(&painted);
+  form.Wired.Set_Caption("Changed");
+  ThePlatform->Repaint();
+  EXPECT_GT(painted.Times, 0);
 }
 
 TEST_F(Views, TheWindowStandsWhereTheFormSaysAndTheFormKnowsWhereItWasMoved) {

@@ -47,6 +47,7 @@ class Test_Bench : private Platform, private Settings_Store, private Serial_Back
   double Now() const { return now; }
   void Pass(double seconds) { now += seconds; }
   std::function<void()> On_Yield;              // Runs inside every yield.
+  std::function<void()> On_Repaint;            // Inside every repaint.
   std::vector<std::string> Boxes;              // Title, " | ", text of each message box.
   Message_Icon Box_Icon = Message_Icon::None;  // Of the last one.
   bool Box_Answer = true;
@@ -62,6 +63,9 @@ class Test_Bench : private Platform, private Settings_Store, private Serial_Back
     std::uint8_t Byte;
   };
   void DoEvents() override;
+  void Repaint() override {
+    if (On_Repaint) On_Repaint();
+  }
   void Await_Event(double seconds) override;
   double Timer() override { return now; }
   void Sleep(int milliseconds) override { now += milliseconds / 1000.0; }
