@@ -44,7 +44,7 @@ class Serial_Backend {
 
 class MSComm {
  public:
-  static constexpr std::size_t kOutBufferSize = 512;
+  static constexpr std::size_t kOutBufferSize = 512;  // Bytes.
 
   // The backend outlives its use here.
   void Attach(Serial_Backend* port) { backend = port; }

@@ -184,7 +184,8 @@ class One_Run {
 
     // Time.
     if (Bench.LongestGap > 1.001) return "a wait of " + std::to_string(Bench.LongestGap) + " s";
-    const std::size_t most = fault.Refused ? 0 : On_The_Bus() ? Most_Waits() : 1;
+    const bool answers_may_come = fault.Refused == 0 && fault.Board != Fault::Out_Of_Reach;
+    const std::size_t most = !answers_may_come ? 0 : On_The_Bus() ? Most_Waits() : 1;
     if (Bench.SilentSeconds > most) return std::to_string(Bench.SilentSeconds) + " waits for an answer";
 
     // The socket.
@@ -209,6 +210,7 @@ class One_Run {
     }
 
     // What is where.
+    if (frmMain.CmbSize.ListIndex() != 0) return "the block has another size";
     if (ImageBuffer.size() != kDevice) return "the image has another size";
     if (!Chip_Untouched_Elsewhere()) return "a cell outside the block has changed";
     const bool read = !c.Command.Writes;

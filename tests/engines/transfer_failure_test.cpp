@@ -1,6 +1,5 @@
-// Transfers that fail: no board, no chip, a board that dies, lines that stick, rows that are wrong, a window
-// that closes. Whatever happens, the socket loses its supply where the board still hears, the port closes,
-// the controls come back, and the image is what it should be.
+// Transfers that fail for other reasons than those of the sweep: a port in use, no chip, lines that stick,
+// rows that are wrong. And faults that were there once, by name.
 #include <utility>
 
 #include "chip_bench.h"
@@ -34,7 +33,6 @@ TEST(Transfer_Failure, EachFaultEndsWithItsTextAndLeavesTheImageAsItShouldBe) {
     std::function<void(Chip_Bench&)> Fault;
     const char* Panel1;
   } faults[] = {
-      {"nothing on the port", [](Chip_Bench& b) { b.Board = nullptr; }, "プログラマ接続確認エラー。【1】"},
       {"port in use", [](Chip_Bench& b) { b.Refusal = Port_Fault::In_Use; },
        "プログラマ接続確認エラー。【1】ポートは使用中です。"},
       {"unknown board", [](Chip_Bench& b) { b.Programmer.Identify_As("SOME OTHER BOARD 9.00"); },

@@ -9,25 +9,6 @@
 namespace wrenbit {
 namespace {
 
-TEST(Block_Transfer, ABlockSmallerThanTheChipLeavesTheRestAlone) {
-  for (const char* chip : {"24C64", "AT93C66"}) {
-    SCOPED_TRACE(chip);
-    Chip_Bench bench(chip, "5.00");
-    bench.Fill_Chip(5);
-    bench.Fill_Image(6);
-    frmMain.CmbSize.Set_ListIndex(2);
-    Bytes expected = bench.Chip_Contents();
-    std::copy_n(ImageBuffer.begin(), 64, expected.begin());
-    Cmd_WRITE_all_Click();
-    EXPECT_EQ(bench.Chip_Contents(), expected);
-    EXPECT_EQ(frmMain.CmbSize.ListIndex(), 2);
-
-    Cmd_READ_all_Click();
-    std::fill(expected.begin() + 64, expected.end(), std::uint8_t{0xFF});
-    EXPECT_EQ(ImageBuffer, expected);
-  }
-}
-
 TEST(Block_Transfer, ThePercentageMovesAtEachWholeNumber) {
   for (const auto& [chip, run] : {std::pair{"24C00", &Cmd_READ_all_Click},
                                   {"AT93C46", &Cmd_READ_all_Click},

@@ -132,18 +132,6 @@ TEST_F(Link_Test, AnotherEventNeitherEndsNorLengthensTheWait) {
   EXPECT_NEAR(bench.Now() - before, 1.0, 0.01);
 }
 
-TEST_F(Link_Test, APortThatHasGoneIsNotWaitedFor) {
-  struct Gone_Board : board::Wire_End {
-    board::Answer Receive(std::uint8_t) override { return {}; }
-    bool Gone() const override { return true; }
-  } gone;
-  bench.Board = &gone;
-  const double before = bench.Now();
-  EXPECT_EQ(Link_ReadPortA(), 0);
-  EXPECT_EQ(LinkError, 1);
-  EXPECT_LT(bench.Now() - before, 0.01);
-}
-
 // The wire's own share of a reply's second must stay small, whatever the system swallows at once.
 TEST_F(Link_Test, WhatIsSentRunsAtMost512BytesAheadOfTheWireOrOfWhatWasSeenOfIt) {
   const struct {

@@ -116,6 +116,7 @@ void Test_Bench::Drop() {
 bool Test_Bench::Write(std::span<const std::uint8_t> bytes) {
   End_Gap();
   Commands.emplace_back(bytes.begin(), bytes.end());
+  if (Lost()) return false;  // A port that goes at these bytes has taken them.
   const bool taken = !Takes || Takes(Commands.size());
   if (!taken) bytes = bytes.first(std::min(Partly, bytes.size() - 1));
   for (const std::uint8_t byte : bytes) {
@@ -128,7 +129,7 @@ bool Test_Bench::Write(std::span<const std::uint8_t> bytes) {
       arriving.push_back({back_free, said});
     }
   }
-  return taken && !Lost();
+  return taken;
 }
 
 board::Answer Scripted_Board::Receive(std::uint8_t) {
