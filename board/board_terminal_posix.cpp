@@ -12,6 +12,7 @@
 #include <cerrno>
 #include <chrono>
 #include <deque>
+#include <optional>
 
 #include "board_terminal.h"
 
@@ -61,7 +62,14 @@ class Wire_Schedule {
   Clock::time_point Arrival(Clock::time_point sent) { return InFree = std::max(InFree, sent) + ByteTime; }
   Clock::time_point Departure(Clock::time_point said) { return OutFree = std::max(OutFree, said) + ByteTime; }
 
+  // A board that sleeps wakes up some 50 to 100 microseconds late, and the line would seem to be slower than
+  // it is. So it stays awake while the wire is in use.
+  bool Awake(Clock::time_point now) const {
+    return ByteTime > Nanoseconds(0) && now < std::max(InFree, OutFree) + kAwakeFor;
+  }
+
  private:
+  static constexpr std::chrono::milliseconds kAwakeFor{5};
   Nanoseconds ByteTime;
   Clock::time_point InFree, OutFree;
 };
@@ -129,18 +137,18 @@ void Board_Terminal::Serve(Wire_End& end, Pace pace, Typed_Lines& typed,
                       {.fd = *Closings, .events = POLLIN, .revents = 0},
                       {.fd = typed.Number(), .events = POLLIN, .revents = 0}};
     auto& [master, closings, keyboard] = files;
-    timespec until_due{};
-    bool waits_for_due = false;
-    if (!replies.empty()) {
-      const auto left = std::chrono::duration_cast<Nanoseconds>(replies.front().Due - Clock::now()).count();
-      waits_for_due = left > 0;
-      if (waits_for_due) {
-        until_due = {.tv_sec = left / 1'000'000'000, .tv_nsec = left % 1'000'000'000};
-      } else {
-        master.events |= POLLOUT;
-      }
+    const auto now = Clock::now();
+    std::optional<Nanoseconds> rest;
+    if (!replies.empty() && replies.front().Due <= now) {
+      master.events |= POLLOUT;
+    } else if (wire.Awake(now)) {
+      rest = Nanoseconds(0);
+    } else if (!replies.empty()) {
+      rest = replies.front().Due - now;
     }
-    if (ppoll(files, std::size(files), waits_for_due ? &until_due : nullptr, &MaskWhileWaiting) < 0) {
+    const timespec limit{.tv_sec = rest.value_or(Nanoseconds(0)).count() / 1'000'000'000,
+                         .tv_nsec = rest.value_or(Nanoseconds(0)).count() % 1'000'000'000};
+    if (ppoll(files, std::size(files), rest ? &limit : nullptr, &MaskWhileWaiting) < 0) {
       if (errno == EINTR) continue;
       Throw_Errno("waiting for the terminal");
     }

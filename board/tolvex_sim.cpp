@@ -49,7 +49,8 @@ void Describe(CLI::App& app, Options& options) {
   app.add_option("--firmware", options.Firmware, "Version text of the firmware, 4 characters")
       ->capture_default_str();
   app.add_option("--id", options.Identification, "Whole answer to \"?\", in place of the firmware's");
-  app.add_flag("--pace", options.Paced, "Reply no earlier than 9600 baud would");
+  app.add_flag("--pace", options.Paced,
+               "Reply no earlier than 9600 baud would; keeps a processor busy meanwhile");
   app.footer(
       "To swap the chip while the board runs, type a line with the new one, and its image if it has one:\n"
       "  AT93C46 my-chip.bin\n"
