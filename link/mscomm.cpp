@@ -33,7 +33,9 @@ std::optional<Serial_Device> MSComm::Device(int number) const {
 
 void MSComm::Clear_InBuffer() {
   if (!open) return;
-  unasked += backend->Waiting();
+  const std::size_t waiting = backend->Waiting();
+  if (waiting == 0) return;
+  unasked += waiting;
   backend->Drop();
 }
 
