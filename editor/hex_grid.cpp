@@ -1,5 +1,12 @@
 #include "hex_grid.h"
 
+#include <algorithm>
+#include <array>
+#include <cstring>
+#include <span>
+#include <string>
+#include <string_view>
+
 #include "byte_texts.h"
 #include "cell_address.h"
 #include "cell_selection.h"
@@ -30,37 +37,55 @@ void Grid_Format() {
   grid.Set_ColAlignment(kAsciiCol, Alignment::Left);
 }
 
-// The texts of all byte values, worked out once: a refill joins them by the ten thousand.
-struct Byte_Texts {
-  std::array<std::string, 256> Cell;
-  std::array<std::string, 256> Character;
-  Byte_Texts() {
-    for (unsigned byte = 0; byte < 256; ++byte) {
-      Cell[byte] = Byte_Cell(static_cast<std::uint8_t>(byte));
-      Character[byte] = Refill_Character(static_cast<std::uint8_t>(byte));
+// The texts of all byte values, worked out once: a refill joins them by the hundred thousand. Each lies in
+// eight characters, which are copied whole, whatever of them counts: that is one move of the processor.
+class Byte_Texts {
+ public:
+  template <class Text_Of_Byte>
+  explicit Byte_Texts(Text_Of_Byte text_of) {
+    for (unsigned byte = 0; byte < entries.size(); ++byte) {
+      const std::string text = text_of(static_cast<std::uint8_t>(byte));
+      text.copy(entries[byte].Text.data(), entries[byte].Text.size());
+      entries[byte].Length = text.size();
     }
   }
+  static constexpr std::size_t kRoom = 8;
+  // There is room for eight characters at `to`. Gives the place behind the text.
+  char* Put(std::uint8_t byte, char* to) const {
+    std::memcpy(to, entries[byte].Text.data(), kRoom);
+    return to + entries[byte].Length;
+  }
+
+ private:
+  struct Entry {
+    std::array<char, kRoom> Text{};
+    std::size_t Length = 0;
+  };
+  std::array<Entry, 256> entries;
 };
 
 void Fill_Rows() {
-  static const Byte_Texts texts;
+  static const Byte_Texts pairs([](std::uint8_t byte) { return Hex_Text(byte, 2); });
+  static const Byte_Texts cells([](std::uint8_t byte) { return Byte_Cell(byte) + '\t'; });
+  static const Byte_Texts characters(Refill_Character);
   FlexGrid& grid = frmMain.MSFGrid1;
   const auto rows = static_cast<int>(ImageBuffer.size() / kBytesPerRow);
   grid.Set_Col(0);
   grid.Set_Row(0);
   grid.Set_Cols(kGridCols);
   grid.Set_Rows(rows + 1);
+  std::array<char, (2 * kBytesPerRow + 4) * Byte_Texts::kRoom> line;
   for (int row = 1; row <= rows; ++row) {
     const auto first = static_cast<std::uint32_t>(Address_Of_Cell(row, kFirstByteCol));
-    std::string line = "0x" + Hex_Text(first, 6) + '\t';
-    std::string ascii;
-    for (std::uint32_t address = first; address < first + kBytesPerRow; ++address) {
-      line += texts.Cell[ImageBuffer[address]] + '\t';
-      ascii += texts.Character[ImageBuffer[address]];
-    }
+    char* end = std::ranges::copy(std::string_view("0x"), line.data()).out;
+    for (const int shift : {16, 8, 0}) end = pairs.Put(static_cast<std::uint8_t>(first >> shift), end);
+    *end++ = '\t';
+    const std::span bytes = std::span(ImageBuffer).subspan(first, kBytesPerRow);
+    for (const std::uint8_t byte : bytes) end = cells.Put(byte, end);
+    for (const std::uint8_t byte : bytes) end = characters.Put(byte, end);
     grid.Set_Row(row);
     grid.Set_ColSel(kAsciiCol);
-    grid.Set_Clip(line + ascii);
+    grid.Set_Clip({line.data(), end});
   }
 }
 

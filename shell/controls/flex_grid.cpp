@@ -20,47 +20,50 @@ std::size_t Index(int value) { return static_cast<std::size_t>(value); }
 void FlexGrid::Set_Rows(int count) {
   rows.resize(Index(std::max(count, 0)));
   row = std::clamp(row, 0, std::max(Rows() - 1, 0));
-  Tell();
+  Tell_If_Visible();
 }
 
 void FlexGrid::Set_Cols(int count) {
   columns.resize(Index(std::max(count, 0)));
   col = std::clamp(col, 0, std::max(Cols() - 1, 0));
   col_sel = col;
-  Tell();
+  Tell_If_Visible();
 }
 
 void FlexGrid::Set_Row(int value) {
   if (value < 0 || value >= Rows()) return;
   col_sel = col;
-  Store(row, value);
+  if (row == value) return;
+  row = value;
+  Tell_If_Visible();
 }
 
 void FlexGrid::Set_Col(int value) {
   if (value < 0 || value >= Cols()) return;
   col_sel = value;
-  Store(col, value);
+  if (col == value) return;
+  col = value;
+  Tell_If_Visible();
 }
 
 void FlexGrid::Set_ColSel(int value) {
   if (value >= 0 && value < Cols()) col_sel = value;
 }
 
-void FlexGrid::Set_Clip(std::string text) {
+void FlexGrid::Set_Clip(std::string_view text) {
   if (row >= Rows()) return;
   if (col == 0 && col_sel == Cols() - 1) {
-    rows[Index(row)] = std::move(text);
+    rows[Index(row)] = text;
   } else {
-    std::string_view rest = text;
-    for (int c = col; c <= col_sel; ++c) Set_Cell(row, c, Next_Part(rest, '\t'));
+    for (int c = col; c <= col_sel; ++c) Set_Cell(row, c, Next_Part(text, '\t'));
   }
-  Tell();
+  Tell_If_Visible();
 }
 
 void FlexGrid::Set_Text(std::string_view text) {
   if (row >= Rows()) return;
   Set_Cell(row, col, text);
-  Tell();
+  Tell_If_Visible();
 }
 
 std::string_view FlexGrid::Cell(int at_row, int at_col) const {
@@ -87,7 +90,7 @@ void FlexGrid::Set_FormatString(std::string_view format) {
     columns[Index(c)].Align = centred ? Alignment::Centre : Alignment::Left;
     if (Rows() > 0) Set_Cell(0, c, header);
   }
-  Tell();
+  Tell_If_Visible();
 }
 
 void FlexGrid::Set_ColWidth(int column, int twips) { Store(columns.at(Index(column)).Width, twips); }

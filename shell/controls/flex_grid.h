@@ -1,6 +1,7 @@
 // The grid control: rows of text cells with one fixed row above, one fixed column at the left and one current
 // cell. A row is kept as it was written, cells parted by TAB, and cut up only when a cell is asked for, so
-// that refilling thousands of rows costs one string each.
+// that refilling thousands of rows costs one string each. While the grid is invisible its view is told
+// nothing but that, and looks at all of it when it shows again.
 #pragma once
 
 #include <string>
@@ -30,7 +31,7 @@ class FlexGrid : public Control {
   // End column of the selection, which begins at the current cell. Setting Row or Col takes it back there.
   void Set_ColSel(int value);
   // The texts of the selected cells, TAB between them.
-  void Set_Clip(std::string text);
+  void Set_Clip(std::string_view text);
 
   // The current cell.
   std::string Text() const { return std::string(Cell(row, col)); }
@@ -55,6 +56,9 @@ class FlexGrid : public Control {
     Alignment Align = Alignment::Left;
   };
   void Set_Cell(int at_row, int at_col, std::string_view text);
+  void Tell_If_Visible() const {
+    if (Visible()) Tell();
+  }
 
   std::vector<std::string> rows;
   std::vector<Column> columns;
