@@ -1,6 +1,7 @@
 #include "grid_view.h"
 
 #include <QKeyEvent>
+#include <QPaintEvent>
 #include <QPainter>
 #include <QScrollBar>
 #include <algorithm>
@@ -65,16 +66,16 @@ QRect Grid_View::Cell_Rect(int row, int col) const {
   return QRect(left, line * kRowHeight, right - left, kRowHeight).intersected(viewport()->rect());
 }
 
-void Grid_View::paintEvent(QPaintEvent*) {
+void Grid_View::paintEvent(QPaintEvent* event) {
   QPainter painter(viewport());
   painter.setFont(font());
   const QPalette::ColorGroup group = isEnabled() ? QPalette::Active : QPalette::Disabled;
   const auto colour = [&](QPalette::ColorRole role) { return palette().color(group, role); };
-  painter.fillRect(viewport()->rect(), colour(QPalette::Base));
+  painter.fillRect(event->rect(), colour(QPalette::Base));
 
   const auto paint_cell = [&](int row, int col) {
     const QRect cell = Cell_Rect(row, col);
-    if (cell.isEmpty()) return;
+    if (!event->rect().intersects(cell)) return;
     const bool fixed = row == 0 || col == 0;
     const bool current = !fixed && row == grid.Row() && col == grid.Col();
     painter.fillRect(cell, colour(fixed ? QPalette::Button : current ? QPalette::Highlight : QPalette::Base));
@@ -100,7 +101,13 @@ void Grid_View::paintEvent(QPaintEvent*) {
 
 void Grid_View::resizeEvent(QResizeEvent*) { Set_Scroll_Range(); }
 
-void Grid_View::scrollContentsBy(int, int) { viewport()->update(); }
+// Whole rows below the header move, so that only what comes into sight is painted; a row that is cut off at
+// the bottom closes there with a line of its own.
+void Grid_View::scrollContentsBy(int, int rows) {
+  const QRect whole(0, kRowHeight, viewport()->width(), Rows_In_Sight() * kRowHeight);
+  viewport()->scroll(0, rows * kRowHeight, whole);
+  viewport()->update(viewport()->rect().adjusted(0, whole.bottom() + 1, 0, 0));
+}
 
 Grid_Cell Grid_View::Cell_At(const QPoint& point) const {
   const int line = point.y() / kRowHeight;
