@@ -1,0 +1,50 @@
+// wrenbit-bench: what the program costs beside what it could cost at best, in ratios that are taken side by
+// side in one run. No test: nothing fails when a goal is missed.
+#include <QCoreApplication>
+#include <QFile>
+#include <QTemporaryDir>
+#include <exception>
+#include <iostream>
+
+#include "machine.h"
+#include "program.h"
+#include "report.h"
+#include "transfers.h"
+#include "window_costs.h"
+
+namespace {
+
+void Keep(const QString& path, const std::string& json) {
+  QFile file(path);
+  if (!file.open(QFile::WriteOnly) || file.write(json.data(), static_cast<qint64>(json.size())) < 0)
+    throw std::runtime_error("cannot be written: " + path.toStdString());
+}
+
+}  // namespace
+
+int main(int argc, char** argv) try {
+  const QTemporaryDir configuration;  // Nothing of the user's is touched.
+  qputenv("XDG_CONFIG_HOME", configuration.path().toUtf8());
+  if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+  qputenv("QT_LOGGING_RULES",
+          "default.warning=false");  // The offscreen platform tells of all that it is not.
+  wrenbit::Program program(argc, argv);
+  QStringList arguments = QCoreApplication::arguments().mid(1);
+  const bool brief = arguments.removeAll(QStringLiteral("--brief")) > 0;
+  if (arguments.size() != 1) {
+    std::cerr
+        << "Usage: wrenbit-bench [--brief] JSON-FILE\n--brief leaves out what takes half a minute or more.\n";
+    return 2;
+  }
+  if (!program.Start()) return 1;
+
+  bench::Report report;
+  bench::Measure_Window(report, program);
+  bench::Measure_Transfers(report, brief);
+  const std::string machine = bench::Machine();
+  std::cout << machine << "\n\n" << report.Table();
+  Keep(arguments[0], report.Json(machine));
+} catch (const std::exception& error) {
+  std::cerr << "wrenbit-bench: " << error.what() << '\n';
+  return 1;
+}

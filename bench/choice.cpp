@@ -1,0 +1,24 @@
+#include "choice.h"
+
+#include <stdexcept>
+
+#include "frm_main.h"
+
+namespace bench {
+
+void Choose(const std::string& chip) {
+  using wrenbit::frmMain;
+  auto& list = frmMain.Combo_device;
+  for (int i = 0; i < list.ListCount(); ++i)
+    if (list.List(i).starts_with(chip)) list.Set_ListIndex(i);
+  if (!list.Text().starts_with(chip)) throw std::runtime_error("no chip in the list: " + chip);
+  frmMain.CmbSize.Set_ListIndex(frmMain.CmbSize.ListCount() - 1);
+}
+
+std::vector<std::uint8_t> Pattern(std::size_t size) {
+  std::vector<std::uint8_t> bytes(size);
+  for (std::size_t i = 0; i < size; ++i) bytes[i] = static_cast<std::uint8_t>(i * 167 + i / 256);
+  return bytes;
+}
+
+}  // namespace bench

@@ -1,0 +1,17 @@
+// A chip and an image to measure with.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace bench {
+
+// The chip and its whole size as the block, as a user chooses them. Throws std::runtime_error for one that is
+// not in the list.
+void Choose(const std::string& chip);
+
+// Bytes of which none is its neighbour's.
+std::vector<std::uint8_t> Pattern(std::size_t size);
+
+}  // namespace bench

@@ -1,0 +1,15 @@
+// Clocks, and the one thing that is measured of a process beside time.
+#pragma once
+
+#include <functional>
+
+namespace bench {
+
+struct Spent {
+  double Wall = 0;       // Seconds.
+  double Processor = 0;  // Seconds of this process, all its threads.
+};
+
+Spent Spend(const std::function<void()>& work);
+
+}  // namespace bench

@@ -1,0 +1,64 @@
+#include "pairs.h"
+
+#include <benchmark/benchmark.h>
+
+#include <algorithm>
+#include <map>
+
+namespace bench {
+namespace {
+
+constexpr int kRepetitions = 9;
+
+// Gathers seconds per call, by the benchmark's name, and prints nothing.
+class Gatherer : public benchmark::BenchmarkReporter {
+ public:
+  bool ReportContext(const Context&) override { return true; }
+  void ReportRuns(const std::vector<Run>& runs) override {
+    for (const Run& run : runs)
+      if (run.run_type == Run::RT_Iteration)
+        seconds[run.run_name.function_name].push_back(run.real_accumulated_time /
+                                                      static_cast<double>(run.iterations));
+  }
+  double Median(const std::string& name) {
+    auto& all = seconds.at(name);
+    std::ranges::sort(all);
+    return all[all.size() / 2];
+  }
+
+ private:
+  std::map<std::string, std::vector<double>> seconds;
+};
+
+void Register(const std::string& name, const std::function<void()>& work,
+              const std::function<void()>& settle) {
+  benchmark::RegisterBenchmark(name.c_str(),
+                               [work, settle](benchmark::State& state) {
+                                 for (auto _ : state) {
+                                   work();
+                                   if (!settle) continue;
+                                   state.PauseTiming();
+                                   settle();
+                                   state.ResumeTiming();
+                                 }
+                               })
+      ->Repetitions(kRepetitions)
+      ->MinTime(0.02);
+}
+
+}  // namespace
+
+void Measure_Pairs(Report& report, const std::vector<Pair>& pairs) {
+  benchmark::ClearRegisteredBenchmarks();
+  for (std::size_t i = 0; i < pairs.size(); ++i) {
+    Register("work" + std::to_string(i), pairs[i].Work, pairs[i].Settle);
+    Register("reference" + std::to_string(i), pairs[i].Reference, pairs[i].Settle);
+  }
+  Gatherer gathered;
+  benchmark::RunSpecifiedBenchmarks(&gathered);
+  for (std::size_t i = 0; i < pairs.size(); ++i)
+    report.Add({pairs[i].Subject, gathered.Median("work" + std::to_string(i)), pairs[i].Beside,
+                gathered.Median("reference" + std::to_string(i)), "s", pairs[i].Goal, ""});
+}
+
+}  // namespace bench

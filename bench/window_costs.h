@@ -1,0 +1,11 @@
+// What the window makes the user wait for where no wire is involved.
+#pragma once
+
+#include "program.h"
+#include "report.h"
+
+namespace bench {
+
+void Measure_Window(Report& report, wrenbit::Program& program);
+
+}  // namespace bench
