@@ -8,6 +8,8 @@
 //   behind  checksum, two digits
 #include "intel_hex.h"
 
+#include <algorithm>
+
 #include "code_page_932.h"
 #include "hex_text.h"
 #include "state.h"
@@ -18,20 +20,24 @@ namespace {
 
 constexpr std::size_t kRecordBytes = 16;
 constexpr std::size_t kBankBytes = 0x10000;  // What an address field reaches.
+constexpr std::size_t kLongestLine = 11 + 2 * kRecordBytes + 2;
 constexpr const char* kLineEnd = "\r\n";
 
 enum Record_Type { kData = 0x00, kExtendedSegment = 0x02, kExtendedLinear = 0x04 };
 
+bool Ascii(char c) { return (c & 0x80) == 0; }
+
 // One byte for each character, so that positions are indices; what isn't ASCII is no hex digit anyhow.
-std::string One_Byte_A_Character(std::string_view item) {
-  std::string line;
-  line.reserve(item.size());
+// `room` holds the line where it is not the item itself.
+std::string_view One_Byte_A_Character(std::string_view item, std::string& room) {
+  if (std::ranges::all_of(item, Ascii)) return item;
+  room.clear();
   while (!item.empty()) {
-    const bool ascii = (item[0] & 0x80) == 0;
-    line += ascii ? item[0] : '?';
+    const bool ascii = Ascii(item[0]);
+    room += ascii ? item[0] : '?';
     item.remove_prefix(ascii ? 1 : Cp932_Length(item));
   }
-  return line;
+  return room;
 }
 
 // What is left of a number that runs past the end of the line.
@@ -44,18 +50,28 @@ std::uint32_t Number(std::string_view line, std::size_t position, std::size_t di
 
 std::string Intel_Hex_Text() {
   std::string text;
-  const auto append = [&](std::string line) {
+  text.reserve((ImageBuffer.size() / kRecordBytes + ImageBuffer.size() / kBankBytes + 1) * kLongestLine);
+  std::string line;
+  const auto finish = [&] {
     Hex_LineSum(line);
-    text += line + kLineEnd;
+    text += line;
+    text += kLineEnd;
   };
   for (std::size_t index = 0; index < ImageBuffer.size(); index += kRecordBytes) {
     const auto address = static_cast<std::uint32_t>(index);
-    if (index > 0 && index % kBankBytes == 0) append(":02000004" + Hex_Text(address >> 16, 4));
-    std::string line = ":10" + Hex_Text(address, 4) + "00";
-    for (std::size_t k = 0; k < kRecordBytes; ++k) line += Hex_Text(ImageBuffer[index + k], 2);
-    append(std::move(line));
+    if (index > 0 && index % kBankBytes == 0) {
+      line = ":02000004";
+      Append_Hex(line, address >> 16, 4);
+      finish();
+    }
+    line = ":10";
+    Append_Hex(line, address, 4);
+    line += "00";
+    for (std::size_t k = 0; k < kRecordBytes; ++k) Append_Hex(line, ImageBuffer[index + k], 2);
+    finish();
   }
-  append(":00000001");
+  line = ":00000001";
+  finish();
   return text;
 }
 
@@ -63,8 +79,9 @@ void Intel_Hex_Load(std::string_view text) {
   const bool extended = ImageBuffer.size() > kBankBytes;
   std::uint32_t base = 0;
   Text_Field_Reader items(text, Quotes::Plain);
+  std::string room;
   while (!items.At_End()) {
-    const std::string line = One_Byte_A_Character(items.Next());
+    const std::string_view line = One_Byte_A_Character(items.Next(), room);
     if (!line.starts_with(':')) continue;
     const std::uint32_t length = Number(line, 1, 2);
     const std::uint32_t address = Number(line, 3, 4);

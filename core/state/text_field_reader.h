@@ -16,13 +16,14 @@ enum class Quotes { Honoured, Plain };
 class Text_Field_Reader {
  public:
   // The text must outlive the reader and the fields it gave.
-  Text_Field_Reader(std::string_view text, Quotes meaning) : rest(text), quotes(meaning) {}
+  Text_Field_Reader(std::string_view text, Quotes meaning)
+      : rest(text), quotes(meaning), field_begin(text.data()), counted(text.data()) {}
 
   bool At_End() const { return rest.empty(); }
   // The next field; at the end an empty one.
   std::string_view Next();
   // The line, counted from 1, on which the last field began.
-  int Line() const { return field_line; }
+  int Line();
 
  private:
   std::string_view Take(std::size_t length);
@@ -31,8 +32,9 @@ class Text_Field_Reader {
 
   std::string_view rest;
   Quotes quotes;
-  int field_line = 1;
-  int rest_line = 1;
+  const char* field_begin;
+  const char* counted;  // Lines are counted when asked for, up to here.
+  int line = 1;
 };
 
 }  // namespace wrenbit
