@@ -18,7 +18,11 @@ std::string Qt_Settings::Get(const std::string& section, const std::string& key,
 }
 
 void Qt_Settings::Save(const std::string& section, const std::string& key, const std::string& value) {
-  store.setValue(Path(section, key), QString::fromStdString(value));
+  // What stands there already costs no wait for the disk. A failed save is tried again.
+  const QString path = Path(section, key);
+  const QString text = QString::fromStdString(value);
+  if (store.status() == QSettings::NoError && store.contains(path) && store.value(path) == text) return;
+  store.setValue(path, text);
   store.sync();
 }
 
