@@ -6,10 +6,12 @@
 #include <exception>
 #include <iostream>
 
+#include "file_costs.h"
 #include "machine.h"
 #include "program.h"
 #include "report.h"
 #include "transfers.h"
+#include "whole_programs.h"
 #include "window_costs.h"
 
 namespace {
@@ -40,6 +42,8 @@ int main(int argc, char** argv) try {
 
   bench::Report report;
   bench::Measure_Window(report, program);
+  bench::Measure_Whole_Programs(report);
+  bench::Measure_Files(report);
   bench::Measure_Transfers(report, brief);
   const std::string machine = bench::Machine();
   std::cout << machine << "\n\n" << report.Table();

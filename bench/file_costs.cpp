@@ -1,0 +1,77 @@
+#include "file_costs.h"
+
+#include <QTemporaryDir>
+#include <fstream>
+#include <stdexcept>
+
+#include "choice.h"
+#include "image_buffer.h"
+#include "intel_hex.h"
+#include "pairs.h"
+#include "plain_file.h"
+#include "state.h"
+#include "whole_file.h"
+
+namespace bench {
+namespace {
+
+using wrenbit::ImageBuffer;
+
+// Gives the lines' characters, so that none is left out.
+std::size_t Read_Lines(const std::string& path) {
+  std::ifstream file(path);
+  std::size_t characters = 0;
+  for (std::string line; std::getline(file, line);) characters += line.size();
+  return characters;
+}
+
+void Measure_Image(Report& report, const std::string& path) {
+  const std::string bytes = std::to_string(ImageBuffer.size()) + " bytes, ";
+  const std::vector<std::uint8_t> image = Pattern(ImageBuffer.size());
+  ImageBuffer = image;
+  const std::string text = wrenbit::Intel_Hex_Text();
+  wrenbit::Write_Whole_File(path, text);
+  const auto load = [&] { wrenbit::Intel_Hex_Load(wrenbit::Read_Whole_File(path).value_or("")); };
+  wrenbit::Image_Create();
+  load();
+  if (ImageBuffer != image) throw std::runtime_error("the file gave back other bytes than were saved");
+  Measure_Pairs(report, {
+                            {.Subject = bytes + "load",
+                             .Work = load,
+                             .Beside = "plain read, line by line",
+                             .Reference = [&] { Read_Lines(path); },
+                             .Settle = {},
+                             .Goal = 4},
+                            {.Subject = bytes + "load",
+                             .Work = load,
+                             .Beside = "one read(2) of all of it",
+                             .Reference = [&] { Plain_Read(path); },
+                             .Settle = {},
+                             .Goal = {}},
+                            {.Subject = bytes + "text made and plainly written",
+                             .Work = [&] { Plain_Write(path, wrenbit::Intel_Hex_Text(), Durable::No); },
+                             .Beside = "plain write of the text",
+                             .Reference = [&] { Plain_Write(path, text, Durable::No); },
+                             .Settle = {},
+                             .Goal = 3},
+                            {.Subject = bytes + "save, safe from a loss of power",
+                             .Work = [&] { wrenbit::Write_Whole_File(path, wrenbit::Intel_Hex_Text()); },
+                             .Beside = "plain write, flushed to the disk",
+                             .Reference = [&] { Plain_Write(path, text, Durable::Yes); },
+                             .Settle = {},
+                             .Goal = 3},
+                        });
+}
+
+}  // namespace
+
+void Measure_Files(Report& report) {
+  report.Begin("Files: Intel HEX");
+  const QTemporaryDir folder;
+  for (const char* chip : {"24C512", "AT24C1024"}) {
+    Choose(chip);
+    Measure_Image(report, folder.filePath("image.hex").toStdString());
+  }
+}
+
+}  // namespace bench

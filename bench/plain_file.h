@@ -1,0 +1,15 @@
+// Files as a program reads and writes them that cares for nothing.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace bench {
+
+std::string Plain_Read(const std::string& path);
+
+enum class Durable { No, Yes };
+// Over what is there. Durable: returns when it is on the disk.
+void Plain_Write(const std::string& path, std::string_view text, Durable durable);
+
+}  // namespace bench

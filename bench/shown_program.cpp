@@ -1,0 +1,28 @@
+// Wrenbit up to its window; with the words "largest FILE" it also takes in an image of the largest chip,
+// saves it there, loads it again and has it painted.
+#include "choice.h"
+#include "frm_main.h"
+#include "hex_grid.h"
+#include "image_buffer.h"
+#include "intel_hex.h"
+#include "program.h"
+#include "shown_window.h"
+#include "state.h"
+#include "whole_file.h"
+
+int main(int argc, char** argv) {
+  wrenbit::Program program(argc, argv);
+  if (!program.Start()) return 1;
+  bench::Await_Painted(program.Main_Window());
+  if (argc == 3) {
+    bench::Choose("AT24C1024");
+    wrenbit::ImageBuffer = bench::Pattern(wrenbit::ImageBuffer.size());
+    wrenbit::Write_Whole_File(argv[2], wrenbit::Intel_Hex_Text());
+    wrenbit::Image_Create();
+    wrenbit::Intel_Hex_Load(wrenbit::Read_Whole_File(argv[2]).value_or(""));
+    wrenbit::Grid_Refill();
+    QCoreApplication::processEvents();
+    bench::Await_Painted(program.Main_Window());
+  }
+  bench::Say_And_End();
+}
