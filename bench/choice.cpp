@@ -8,6 +8,7 @@ namespace bench {
 
 void Choose(const std::string& chip) {
   using wrenbit::frmMain;
+  if (!frmMain.Visible()) throw std::runtime_error("the window was closed in the midst");
   auto& list = frmMain.Combo_device;
   for (int i = 0; i < list.ListCount(); ++i)
     if (list.List(i).starts_with(chip)) list.Set_ListIndex(i);

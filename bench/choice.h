@@ -8,7 +8,7 @@
 namespace bench {
 
 // The chip and its whole size as the block, as a user chooses them. Throws std::runtime_error for one that is
-// not in the list.
+// not in the list, and when the window has been closed, as a signal to end does.
 void Choose(const std::string& chip);
 
 // Bytes of which none is its neighbour's.
