@@ -2,6 +2,7 @@
 // side in one run. No test: nothing fails when a goal is missed.
 #include <QCoreApplication>
 #include <QFile>
+#include <QFileInfo>
 #include <QTemporaryDir>
 #include <exception>
 #include <iostream>
@@ -38,6 +39,8 @@ int main(int argc, char** argv) try {
         << "Usage: wrenbit-bench [--brief] JSON-FILE\n--brief leaves out what takes half a minute or more.\n";
     return 2;
   }
+  // The program makes its own folder the current one.
+  const QString json = QFileInfo(arguments[0]).absoluteFilePath();
   if (!program.Start()) return 1;
 
   bench::Report report;
@@ -47,7 +50,7 @@ int main(int argc, char** argv) try {
   bench::Measure_Transfers(report, brief);
   const std::string machine = bench::Machine();
   std::cout << machine << "\n\n" << report.Table();
-  Keep(arguments[0], report.Json(machine));
+  Keep(json, report.Json(machine));
 } catch (const std::exception& error) {
   std::cerr << "wrenbit-bench: " << error.what() << '\n';
   return 1;
