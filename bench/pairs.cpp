@@ -58,7 +58,7 @@ void Measure_Pairs(Report& report, const std::vector<Pair>& pairs) {
   benchmark::RunSpecifiedBenchmarks(&gathered);
   for (std::size_t i = 0; i < pairs.size(); ++i)
     report.Add({pairs[i].Subject, gathered.Median("work" + std::to_string(i)), pairs[i].Beside,
-                gathered.Median("reference" + std::to_string(i)), "s", pairs[i].Goal, ""});
+                gathered.Median("reference" + std::to_string(i)), "s", pairs[i].Goal});
 }
 
 }  // namespace bench

@@ -70,7 +70,7 @@ std::string Row(const Line& line) {
   return Row("  " + line.Subject, Amount(line.Measured, line.Unit),
              compared ? Amount(line.Reference, line.Unit) : "", line.Beside,
              compared ? Number(line.Ratio()) : "", line.Goal ? Number(*line.Goal) : "",
-             (line.Missed() ? "MISSED " : "") + line.Remark);
+             line.Missed() ? "MISSED" : "");
 }
 
 }  // namespace
@@ -109,7 +109,6 @@ std::string Report::Json(const std::string& machine) const {
         object["goal"] = *line.Goal;
         object["met"] = !line.Missed();
       }
-      if (!line.Remark.empty()) object["remark"] = text(line.Remark);
       lines.append(object);
     }
   return QJsonDocument(QJsonObject{{"machine", text(machine)}, {"lines", lines}}).toJson().toStdString();

@@ -14,7 +14,6 @@ struct Line {
   double Reference = 0;
   std::string Unit;            // "s" or "B".
   std::optional<double> Goal;  // Measured over Reference is to stay below it.
-  std::string Remark;
 
   double Ratio() const { return Measured / Reference; }
   bool Missed() const { return Goal && Ratio() > *Goal; }

@@ -53,13 +53,12 @@ void Measure_Whole_Programs(Report& report) {
     empty.push_back(show("empty-window").Seconds);
     program.push_back(show("shown-program").Seconds);
   }
-  report.Add(
-      {"start to the shown window", Median(program), "an empty Qt window", Median(empty), "s", 1.3, ""});
+  report.Add({"start to the shown window", Median(program), "an empty Qt window", Median(empty), "s", 1.3});
   const double bare = show("empty-window").Memory;
-  report.Add({"memory, first chip", show("shown-program").Memory, "an empty Qt window", bare, "B", {}, ""});
+  report.Add({"memory, first chip", show("shown-program").Memory, "an empty Qt window", bare, "B", {}});
   const double largest = show("shown-program", {"largest", folder.filePath("image.hex")}).Memory;
-  report.Add({"memory, largest chip", largest, "an empty Qt window", bare, "B", {}, ""});
-  report.Add({"what that is more", largest - bare, "10 MiB", 10 << 20, "B", 1.0, ""});
+  report.Add({"memory, largest chip", largest, "an empty Qt window", bare, "B", {}});
+  report.Add({"what that is more", largest - bare, "10 MiB", 10 << 20, "B", 1.0});
 }
 
 }  // namespace bench
