@@ -1,13 +1,14 @@
 // The least that a program can do to talk to a port.
 #pragma once
 
-#include <cstdint>
 #include <string>
+
+#include "conversation.h"
 
 namespace bench {
 
-// Seconds for so many round trips: one byte out, one byte back, by poll(2). Throws std::runtime_error when
-// the other side falls silent.
-double Bare_Round_Trips(const std::string& device, std::uint8_t command, int trips);
+// Seconds to hold a conversation once more by write(2), poll(2) and read(2), and nothing else. Throws
+// std::runtime_error when the other side falls silent.
+double Bare_Talk(const std::string& device, const Conversation& conversation);
 
 }  // namespace bench

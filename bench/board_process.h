@@ -16,6 +16,7 @@ struct Traffic {
   // Seconds that the wire needs for it at 9600 baud, 8N1. An answer is awaited before the next command goes
   // out, so the two directions add up.
   double Wire_Time() const { return static_cast<double>(Out + Back) * 10 / 9600; }
+  bool operator==(const Traffic&) const = default;
 };
 
 class Board_Process {

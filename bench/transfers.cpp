@@ -11,6 +11,7 @@
 #include "choice.h"
 #include "frm_main.h"
 #include "measure.h"
+#include "recording_port.h"
 #include "state.h"
 
 namespace bench {
@@ -24,6 +25,7 @@ struct Case {
   const char* Firmware;
   bool Long;  // Takes half a minute or more at 9600 baud.
 };
+constexpr const char* kWireTime = "the wire time of its bytes";
 constexpr Case kWireCases[] = {
     {"24C02", "5.00", false}, {"AT93C46", "5.00", false}, {"24C64", "5.00", true}, {"24C02", "4.90", true}};
 
@@ -55,6 +57,12 @@ class Chip_File {
   QTemporaryDir folder;
 };
 
+// The virtual board with what the case and the options say.
+Board_Process Start_Board(const Case& what, const Chip_File& chip, const QStringList& options) {
+  return Board_Process(QStringList{"--chip", what.Chip, "--firmware", what.Firmware, "--image", chip.Path()} +
+                       options);
+}
+
 struct Run {
   Spent Took;
   Traffic Passed;
@@ -65,8 +73,7 @@ Run Transfer(const wrenbit::CommandButton& button, const Case& what, const QStri
   Choose(what.Chip);
   const Chip_File chip(ImageBuffer.size());
   std::ranges::reverse_copy(Pattern(ImageBuffer.size()), ImageBuffer.begin());
-  Board_Process board(QStringList{"--chip", what.Chip, "--firmware", what.Firmware, "--image", chip.Path()} +
-                      options);
+  Board_Process board = Start_Board(what, chip, options);
   Run run;
   run.Took = Press(button);
   run.Passed = board.End();
@@ -75,19 +82,58 @@ Run Transfer(const wrenbit::CommandButton& button, const Case& what, const QStri
   return run;
 }
 
-void Measure_Wire(Report& report, bool brief) {
+// Seconds that a program without pause, window or protocol takes to say the same to the same board.
+double Said_Again(const Conversation& said, const Traffic& passed, const Case& what,
+                  const QStringList& options) {
+  const Chip_File chip(ImageBuffer.size());
+  Board_Process board = Start_Board(what, chip, options);
+  const double seconds = Bare_Talk(board.Device(), said);
+  if (board.End() != passed) throw std::runtime_error("what was said again was not the same");
+  return seconds;
+}
+
+struct Command {
+  const wrenbit::CommandButton& Button;
+  const char* Name;
+};
+const Command kRead{frmMain.Cmd_READ_all, ", block read"};
+const Command kWrite{frmMain.Cmd_WRITE_all, ", block write"};
+
+void Measure_Wire(Report& report, const Recording_Port& port, bool brief) {
   report.Begin("The wire: block transfers of whole chips, the board paced to 9600 baud");
+  const QStringList paced{"--pace"};
   for (const Case& what : kWireCases) {
     if (brief && what.Long) continue;
     const std::string chip = std::string(what.Chip) + " at " + what.Firmware;
-    const Run read = Transfer(frmMain.Cmd_READ_all, what, {"--pace"});
-    report.Add({chip + ", block read", read.Took.Wall, "the wire time of its bytes", read.Passed.Wire_Time(),
-                "s", 1.02});
-    report.Add({chip + ", processor during it", read.Took.Processor, "the time that it took", read.Took.Wall,
-                "s", 0.03});
-    const Run write = Transfer(frmMain.Cmd_WRITE_all, what, {"--pace"});
-    report.Add({chip + ", block write", write.Took.Wall, "the wire time of its bytes",
-                write.Passed.Wire_Time(), "s", 1.02});
+    for (const Command& command : {kRead, kWrite}) {
+      const auto [took, passed] = Transfer(command.Button, what, paced);
+      report.Add({chip + command.Name, took.Wall, kWireTime, passed.Wire_Time(), "s", 1.02});
+      report.Add({"  the same said by bare poll",
+                  Said_Again(port.Said(), passed, what, paced),
+                  kWireTime,
+                  passed.Wire_Time(),
+                  "s",
+                  {}});
+      report.Add({"  processor during it", took.Processor, "the time that it took", took.Wall, "s", 0.03});
+    }
+  }
+}
+
+void Measure_Adapters(Report& report, const Recording_Port& port, bool brief) {
+  report.Begin("USB adapters: the same, with the replies held back for their latency timers");
+  const Case what{"24C02", "5.00", false};
+  for (const char* latency : {"16", "1"}) {
+    if (brief && latency == std::string("16")) continue;
+    const QStringList options{"--pace", "--latency", latency};
+    for (const Command& command : {kRead, kWrite}) {
+      const auto [took, passed] = Transfer(command.Button, what, options);
+      report.Add({std::string(what.Chip) + command.Name + ", " + latency + " ms",
+                  took.Wall,
+                  "the same said by bare poll",
+                  Said_Again(port.Said(), passed, what, options),
+                  "s",
+                  {}});
+    }
   }
 }
 
@@ -107,17 +153,19 @@ void Measure_Unpaced(Report& report, bool brief) {
   const Case what{brief ? "24C64" : "AT24C1024", "5.00", false};
   const Run read = Transfer(frmMain.Cmd_READ_all, what, {});
   Board_Process board({"--chip", what.Chip});
-  const auto bytes = static_cast<int>(ImageBuffer.size());
+  const Conversation round_trips(ImageBuffer.size(), {{'7'}, 1});
   report.Add({std::string(what.Chip) + ", block read", read.Took.Wall, "as many bare round trips by poll",
-              Bare_Round_Trips(board.Device(), '7', bytes), "s", 1.3});
+              Bare_Talk(board.Device(), round_trips), "s", 1.3});
 }
 
 }  // namespace
 
 void Measure_Transfers(Report& report, bool brief) {
+  const Recording_Port port;
   Measure_Unpaced(report, brief);
   Measure_Silence(report);
-  Measure_Wire(report, brief);
+  Measure_Wire(report, port, brief);
+  Measure_Adapters(report, port, brief);
 }
 
 }  // namespace bench

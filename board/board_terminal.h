@@ -1,6 +1,7 @@
 // The pseudo terminal behind which a board stands, as a serial port would.
 #pragma once
 
+#include <chrono>
 #include <cstdint>
 #include <functional>
 #include <string>
@@ -16,6 +17,13 @@ enum class Pace : std::uint8_t {
   kWire,  // No reply earlier than 9600 baud 8N1 would carry it.
 };
 
+struct Port_Timing {
+  Pace Wire = Pace::kAtOnce;
+  // Replies reach the PC only at multiples of this, as behind a USB adapter: it hands over what it has when
+  // its latency timer runs out, which is 16 ms as such adapters come, and 1 ms at least.
+  std::chrono::milliseconds Latency{0};
+};
+
 class Board_Terminal {
  public:
   // Opens a terminal in raw mode. From here on SIGINT, SIGTERM and SIGHUP do nothing but end Serve, so one
@@ -28,7 +36,7 @@ class Board_Terminal {
   // Carries bytes between the PC and `end` until a signal asks for the stop, and hands each line that is
   // typed meanwhile to `told`. A PC that doesn't read loses the replies that the terminal can't hold. Throws
   // std::system_error, and what `end` and `told` throw.
-  void Serve(Wire_End& end, Pace pace, Typed_Lines& typed,
+  void Serve(Wire_End& end, const Port_Timing& timing, Typed_Lines& typed,
              const std::function<void(const std::string& line)>& told);
 
  private:

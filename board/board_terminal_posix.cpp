@@ -56,11 +56,17 @@ void Hold_Stop_Signals() {
 // When bytes get through: the wire carries one after the other, in each direction by itself.
 class Wire_Schedule {
  public:
-  explicit Wire_Schedule(Pace pace)
-      : ByteTime(pace == Pace::kWire ? Nanoseconds(10'000'000'000 / 9600) : Nanoseconds(0)) {}
+  explicit Wire_Schedule(const Port_Timing& timing)
+      : ByteTime(timing.Wire == Pace::kWire ? Nanoseconds(10'000'000'000 / 9600) : Nanoseconds(0)),
+        Latency(timing.Latency) {}
 
   Clock::time_point Arrival(Clock::time_point sent) { return InFree = std::max(InFree, sent) + ByteTime; }
-  Clock::time_point Departure(Clock::time_point said) { return OutFree = std::max(OutFree, said) + ByteTime; }
+  Clock::time_point Departure(Clock::time_point said) {
+    OutFree = std::max(OutFree, said) + ByteTime;
+    if (Latency == Nanoseconds(0)) return OutFree;
+    const Nanoseconds since_last_turn = OutFree.time_since_epoch() % Latency;
+    return OutFree + Latency - since_last_turn;
+  }
 
   // A board that sleeps wakes up some 50 to 100 microseconds late, and the line would seem to be slower than
   // it is. So it stays awake while the wire is in use.
@@ -71,6 +77,7 @@ class Wire_Schedule {
  private:
   static constexpr std::chrono::milliseconds kAwakeFor{5};
   Nanoseconds ByteTime;
+  Nanoseconds Latency;
   Clock::time_point InFree, OutFree;
 };
 
@@ -128,9 +135,9 @@ Board_Terminal::Board_Terminal() : Master(posix_openpt(O_RDWR | O_NOCTTY | O_CLO
   Hold_Stop_Signals();
 }
 
-void Board_Terminal::Serve(Wire_End& end, Pace pace, Typed_Lines& typed,
+void Board_Terminal::Serve(Wire_End& end, const Port_Timing& timing, Typed_Lines& typed,
                            const std::function<void(const std::string& line)>& told) {
-  Wire_Schedule wire(pace);
+  Wire_Schedule wire(timing);
   std::deque<Waiting> replies;
   while (!Stop_Asked()) {
     pollfd files[] = {{.fd = *Master, .events = POLLIN, .revents = 0},

@@ -2,6 +2,7 @@
 #include <CLI/CLI.hpp>
 #include <algorithm>
 #include <cctype>
+#include <chrono>
 #include <exception>
 #include <iostream>
 #include <memory>
@@ -27,6 +28,7 @@ struct Options {
   std::string Firmware = "5.00";
   std::string Identification;
   bool Paced = false;
+  int Latency = 0;
 };
 
 std::vector<std::string> Chips_And_None() {
@@ -51,6 +53,9 @@ void Describe(CLI::App& app, Options& options) {
   app.add_option("--id", options.Identification, "Whole answer to \"?\", in place of the firmware's");
   app.add_flag("--pace", options.Paced,
                "Reply no earlier than 9600 baud would; keeps a processor busy meanwhile");
+  app.add_option("--latency", options.Latency,
+                 "Hold replies back as a USB adapter does whose latency timer has so many milliseconds")
+      ->check(CLI::Range(0, 255));
   app.footer(
       "To swap the chip while the board runs, type a line with the new one, and its image if it has one:\n"
       "  AT93C46 my-chip.bin\n"
@@ -135,8 +140,10 @@ void Run(const Options& options) {
     const board::Com_Port_Link link(options.Com, terminal.Device());
     std::cout << "tolvex-sim: " << seat.Text() << " on COM" << options.Com << " = " << terminal.Device()
               << ", firmware " << options.Firmware << std::endl;
-    terminal.Serve(programmer, options.Paced ? board::Pace::kWire : board::Pace::kAtOnce, typed,
-                   [&](const std::string& line) { Swap(seat, line); });
+    terminal.Serve(programmer,
+                   {.Wire = options.Paced ? board::Pace::kWire : board::Pace::kAtOnce,
+                    .Latency = std::chrono::milliseconds(options.Latency)},
+                   typed, [&](const std::string& line) { Swap(seat, line); });
   }
   std::cout << "tolvex-sim: " << programmer.Commands() << " commands, " << programmer.Bytes_In()
             << " bytes out to the board, " << programmer.Bytes_Out() << " bytes back" << std::endl;

@@ -1,0 +1,42 @@
+#include "recording_port.h"
+
+#include "mscomm.h"
+#include "program.h"
+
+namespace bench {
+
+Recording_Port::Recording_Port() : port((wrenbit::Config_Folder() + "/ports").toStdString()) {
+  wrenbit::MSComm1.Attach(this);
+}
+
+Recording_Port::~Recording_Port() {
+  wrenbit::MSComm1.Close();
+  wrenbit::MSComm1.Attach(nullptr);
+}
+
+wrenbit::Port_Fault Recording_Port::Open(int number, bool rts, bool dtr) {
+  conversation.clear();
+  return port.Open(number, rts, dtr);
+}
+
+std::vector<std::uint8_t> Recording_Port::Take() {
+  std::vector<std::uint8_t> bytes = port.Take();
+  Count(bytes.size());
+  return bytes;
+}
+
+void Recording_Port::Drop() {
+  Count(port.Waiting());
+  port.Drop();
+}
+
+bool Recording_Port::Write(std::span<const std::uint8_t> bytes) {
+  conversation.push_back({{bytes.begin(), bytes.end()}, 0});
+  return port.Write(bytes);
+}
+
+void Recording_Port::Count(std::size_t answered) {
+  if (!conversation.empty()) conversation.back().Answered += answered;
+}
+
+}  // namespace bench
