@@ -7,6 +7,7 @@
 #include <exception>
 #include <iostream>
 
+#include "conversions.h"
 #include "file_costs.h"
 #include "machine.h"
 #include "program.h"
@@ -47,6 +48,7 @@ int main(int argc, char** argv) try {
   bench::Measure_Window(report, program);
   bench::Measure_Whole_Programs(report);
   bench::Measure_Files(report);
+  bench::Measure_Conversions(report);
   bench::Measure_Transfers(report, brief);
   const std::string machine = bench::Machine();
   std::cout << machine << "\n\n" << report.Table();

@@ -83,9 +83,9 @@ std::size_t Qt_Serial::Waiting() {
 }
 
 std::vector<std::uint8_t> Qt_Serial::Take() {
-  std::vector<std::uint8_t> bytes(Waiting());
-  port.read(reinterpret_cast<char*>(bytes.data()), static_cast<qint64>(bytes.size()));
-  return bytes;
+  if (lost || !port.isOpen()) return {};
+  const QByteArray bytes = port.readAll();
+  return {bytes.begin(), bytes.end()};
 }
 
 void Qt_Serial::Drop() {
