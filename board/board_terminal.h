@@ -1,28 +1,15 @@
 // The pseudo terminal behind which a board stands, as a serial port would.
 #pragma once
 
-#include <chrono>
-#include <cstdint>
 #include <functional>
 #include <string>
 
 #include "descriptor.h"
 #include "typed_lines.h"
 #include "wire_end.h"
+#include "wire_schedule.h"
 
 namespace board {
-
-enum class Pace : std::uint8_t {
-  kAtOnce,
-  kWire,  // No reply earlier than 9600 baud 8N1 would carry it.
-};
-
-struct Port_Timing {
-  Pace Wire = Pace::kAtOnce;
-  // Replies reach the PC only at multiples of this, as behind a USB adapter: it hands over what it has when
-  // its latency timer runs out, which is 16 ms as such adapters come, and 1 ms at least.
-  std::chrono::milliseconds Latency{0};
-};
 
 class Board_Terminal {
  public:

@@ -20,7 +20,7 @@ namespace board {
 
 namespace {
 
-using Clock = std::chrono::steady_clock;
+using Clock = Wire_Schedule::Clock;
 using Nanoseconds = std::chrono::nanoseconds;
 
 constexpr std::size_t kMostWaiting = 4096;  // Replies in bytes, beyond those in the terminal itself.
@@ -52,34 +52,6 @@ void Hold_Stop_Signals() {
   for (const int number : kStopSignals) sigdelset(&MaskWhileWaiting, number);
   signal(SIGPIPE, SIG_IGN);  // Whoever reads our output may go; the link must still be removed.
 }
-
-// When bytes get through: the wire carries one after the other, in each direction by itself.
-class Wire_Schedule {
- public:
-  explicit Wire_Schedule(const Port_Timing& timing)
-      : ByteTime(timing.Wire == Pace::kWire ? Nanoseconds(10'000'000'000 / 9600) : Nanoseconds(0)),
-        Latency(timing.Latency) {}
-
-  Clock::time_point Arrival(Clock::time_point sent) { return InFree = std::max(InFree, sent) + ByteTime; }
-  Clock::time_point Departure(Clock::time_point said) {
-    OutFree = std::max(OutFree, said) + ByteTime;
-    if (Latency == Nanoseconds(0)) return OutFree;
-    const Nanoseconds since_last_turn = OutFree.time_since_epoch() % Latency;
-    return OutFree + Latency - since_last_turn;
-  }
-
-  // A board that sleeps wakes up some 50 to 100 microseconds late, and the line would seem to be slower than
-  // it is. So it stays awake while the wire is in use.
-  bool Awake(Clock::time_point now) const {
-    return ByteTime > Nanoseconds(0) && now < std::max(InFree, OutFree) + kAwakeFor;
-  }
-
- private:
-  static constexpr std::chrono::milliseconds kAwakeFor{5};
-  Nanoseconds ByteTime;
-  Nanoseconds Latency;
-  Clock::time_point InFree, OutFree;
-};
 
 struct Waiting {
   std::uint8_t Byte;
