@@ -75,7 +75,7 @@ void Grid_View::paintEvent(QPaintEvent* event) {
 
   const auto paint_cell = [&](int row, int col) {
     const QRect cell = Cell_Rect(row, col);
-    if (!event->rect().intersects(cell)) return;
+    if (!event->region().intersects(cell)) return;
     const bool fixed = row == 0 || col == 0;
     const bool current = !fixed && row == grid.Row() && col == grid.Col();
     painter.fillRect(cell, colour(fixed ? QPalette::Button : current ? QPalette::Highlight : QPalette::Base));

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QScreen>
 #include <QScrollBar>
 #include <QTest>
 
@@ -55,6 +56,30 @@ TEST_F(GridView, ScrollsToTheCurrentRowWhenItComesBackAndNotBefore) {
   EXPECT_EQ(view.verticalScrollBar()->value(), 0);
   grid.Set_Visible(true);
   EXPECT_FALSE(view.Cell_Rect(kRows - 1, 1).isEmpty());
+}
+
+// Scrolling moves what is on the screen and paints only the rest.
+TEST_F(GridView, AScrolledGridLooksLikeAPaintedOne) {
+  for (int row = 1; row < kRows; ++row) {
+    grid.Set_Row(row);
+    for (int col = 0; col < 18; ++col) {
+      grid.Set_Col(col);
+      grid.Set_Text(std::to_string(row * 18 + col));
+    }
+  }
+  const auto on_screen = [this] {
+    QCoreApplication::processEvents();
+    return window.screen()->grabWindow(window.winId()).toImage();
+  };
+  QImage before;
+  for (const int line : {40, 41, 40, 47, 30, 0, 99, 5}) {
+    view.verticalScrollBar()->setValue(line);
+    const QImage scrolled = on_screen();
+    EXPECT_NE(scrolled, before) << line;
+    view.viewport()->update();
+    EXPECT_EQ(scrolled, on_screen()) << line;
+    before = scrolled;
+  }
 }
 
 TEST_F(GridView, KeysMoveTheCurrentCellInSightAndClickNothing) {

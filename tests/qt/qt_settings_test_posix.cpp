@@ -35,6 +35,18 @@ TEST(Settings, TheFileIsWrittenAtOnceAndReadAsPeopleWriteIt) {
   EXPECT_TRUE(written.readAll().contains("DUT=12\n"));
 }
 
+// A start saves what it has just loaded, and must not wait for the disk.
+TEST(Settings, AnUnchangedValueIsNotWrittenAgain) {
+  const QTemporaryDir folder;
+  const QString path = folder.filePath("settings.ini");
+  Qt_Settings(path).Save("Settings", "DUT", "12");
+  Qt_Settings settings(path);
+  ASSERT_TRUE(QFile::remove(path));
+  EXPECT_EQ(settings.Get("Settings", "DUT", "0"), "12");
+  settings.Save("Settings", "DUT", "12");
+  EXPECT_FALSE(QFile::exists(path));
+}
+
 TEST(Settings, AStoreThatCannotBeWrittenKeepsTheValueForTheRun) {
   const QTemporaryDir folder;
   QFile in_the_way(folder.filePath("wrenbit"));
