@@ -48,7 +48,7 @@ void Register(const std::string& name, const std::function<void()>& work,
 
 }  // namespace
 
-void Measure_Pairs(Report& report, const std::vector<Pair>& pairs) {
+std::vector<double> Measure_Pairs(Report& report, const std::vector<Pair>& pairs) {
   benchmark::ClearRegisteredBenchmarks();
   for (std::size_t i = 0; i < pairs.size(); ++i) {
     Register("work" + std::to_string(i), pairs[i].Work, pairs[i].Settle);
@@ -56,9 +56,13 @@ void Measure_Pairs(Report& report, const std::vector<Pair>& pairs) {
   }
   Gatherer gathered;
   benchmark::RunSpecifiedBenchmarks(&gathered);
-  for (std::size_t i = 0; i < pairs.size(); ++i)
-    report.Add({pairs[i].Subject, gathered.Median("work" + std::to_string(i)), pairs[i].Beside,
+  std::vector<double> works;
+  for (std::size_t i = 0; i < pairs.size(); ++i) {
+    works.push_back(gathered.Median("work" + std::to_string(i)));
+    report.Add({pairs[i].Subject, works.back(), pairs[i].Beside,
                 gathered.Median("reference" + std::to_string(i)), "s", pairs[i].Goal});
+  }
+  return works;
 }
 
 }  // namespace bench

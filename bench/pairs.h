@@ -19,7 +19,7 @@ struct Pair {
   std::optional<double> Goal;    // Work over Reference is to stay below it.
 };
 
-// A line for each pair: medians of the repetitions, in processor-independent wall time.
-void Measure_Pairs(Report& report, const std::vector<Pair>& pairs);
+// A line for each pair: medians of the repetitions, in wall time. Gives what the works took, in seconds.
+std::vector<double> Measure_Pairs(Report& report, const std::vector<Pair>& pairs);
 
 }  // namespace bench
