@@ -3,6 +3,8 @@
 #include <unistd.h>
 
 #include <array>
+#include <cerrno>
+#include <cstddef>
 #include <stdexcept>
 
 #include "bare_port.h"
@@ -13,16 +15,22 @@ namespace {
 
 constexpr int kPatience = 2000;  // Milliseconds.
 
-bool Take_Turn(int port, const Turn& turn) {
-  if (write(port, turn.Said.data(), turn.Said.size()) != static_cast<ssize_t>(turn.Said.size())) return false;
+// Reads until nothing more is owed. Bytes that come early make the next turn owe less.
+bool Hear(int port, std::ptrdiff_t& owed) {
   std::array<char, 512> bytes;
-  for (std::size_t answered = 0; answered < turn.Answered;) {
+  while (owed > 0) {
     pollfd wait{.fd = port, .events = POLLIN, .revents = 0};
-    const ssize_t got = poll(&wait, 1, kPatience) == 1 ? read(port, bytes.data(), bytes.size()) : 0;
+    const int ready = poll(&wait, 1, kPatience);
+    if (ready < 0 && errno == EINTR) continue;
+    const ssize_t got = ready == 1 ? read(port, bytes.data(), bytes.size()) : 0;
     if (got <= 0) return false;
-    answered += static_cast<std::size_t>(got);
+    owed -= got;
   }
   return true;
+}
+
+bool Say(int port, const std::vector<std::uint8_t>& bytes) {
+  return write(port, bytes.data(), bytes.size()) == static_cast<ssize_t>(bytes.size());
 }
 
 }  // namespace
@@ -32,7 +40,11 @@ double Bare_Talk(const std::string& device, const Conversation& conversation) {
   if (port < 0) throw std::runtime_error("the bare port cannot be opened");
   bool heard = true;
   const Spent spent = Spend([&] {
-    for (const Turn& turn : conversation) heard = heard && Take_Turn(port, turn);
+    std::ptrdiff_t owed = 0;
+    for (const Turn& turn : conversation) {
+      owed += static_cast<std::ptrdiff_t>(turn.Answered);
+      heard = heard && Say(port, turn.Said) && Hear(port, owed);
+    }
   });
   close(port);
   if (!heard) throw std::runtime_error("the board fell silent to the bare port");

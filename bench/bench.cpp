@@ -1,47 +1,47 @@
 // wrenbit-bench: what the program costs beside what it could cost at best, in ratios that are taken side by
 // side in one run. No test: nothing fails when a goal is missed.
 #include <QCoreApplication>
-#include <QFile>
 #include <QFileInfo>
-#include <QTemporaryDir>
 #include <exception>
 #include <iostream>
+#include <stdexcept>
 
 #include "conversions.h"
 #include "file_costs.h"
 #include "machine.h"
 #include "program.h"
 #include "report.h"
+#include "temporary_folder.h"
 #include "transfers.h"
+#include "whole_file.h"
 #include "whole_programs.h"
 #include "window_costs.h"
 
 namespace {
 
-void Keep(const QString& path, const std::string& json) {
-  QFile file(path);
-  if (!file.open(QFile::WriteOnly) || file.write(json.data(), static_cast<qint64>(json.size())) < 0)
-    throw std::runtime_error("cannot be written: " + path.toStdString());
+void Keep(const std::string& path, const std::string& json) {
+  if (wrenbit::Write_Whole_File(path, json)) throw std::runtime_error("cannot be written: " + path);
 }
 
 }  // namespace
 
 int main(int argc, char** argv) try {
-  const QTemporaryDir configuration;  // Nothing of the user's is touched.
-  qputenv("XDG_CONFIG_HOME", configuration.path().toUtf8());
+  const bench::Temporary_Folder configuration;  // Nothing of the user's is touched.
+  qputenv("XDG_CONFIG_HOME", configuration.Path().toUtf8());
   if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
   qputenv("QT_LOGGING_RULES",
           "default.warning=false");  // The offscreen platform tells of all that it is not.
   wrenbit::Program program(argc, argv);
   QStringList arguments = QCoreApplication::arguments().mid(1);
   const bool brief = arguments.removeAll(QStringLiteral("--brief")) > 0;
-  if (arguments.size() != 1) {
+  if (arguments.size() != 1 || arguments[0].startsWith(u'-')) {
     std::cerr
         << "Usage: wrenbit-bench [--brief] JSON-FILE\n--brief leaves out what takes half a minute or more.\n";
     return 2;
   }
   // The program makes its own folder the current one.
-  const QString json = QFileInfo(arguments[0]).absoluteFilePath();
+  const std::string json = QFileInfo(arguments[0]).absoluteFilePath().toStdString();
+  Keep(json, {});  // Better refused now than minutes later.
   if (!program.Start()) return 1;
 
   bench::Report report;

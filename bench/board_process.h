@@ -31,10 +31,12 @@ class Board_Process {
   const std::string& Device() const { return device; }
   // It answers nothing any more, and stays.
   void Freeze();
-  // Ends it. What has passed since it came up.
+  // Ends it. What has passed since it came up. Throws std::runtime_error when it died before.
   Traffic End();
 
  private:
+  void Stop();
+
   QProcess process;
   std::string device;
 };

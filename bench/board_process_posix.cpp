@@ -25,18 +25,24 @@ Board_Process::Board_Process(const QStringList& arguments) {
 }
 
 Board_Process::~Board_Process() {
-  if (process.state() != QProcess::NotRunning) End();
+  if (process.state() != QProcess::NotRunning) Stop();
 }
 
 void Board_Process::Freeze() { kill(static_cast<pid_t>(process.processId()), SIGSTOP); }
 
-Traffic Board_Process::End() {
+void Board_Process::Stop() {
   kill(static_cast<pid_t>(process.processId()), SIGCONT);
   process.terminate();
   process.waitForFinished(kPatience);
+}
+
+Traffic Board_Process::End() {
+  Stop();
   const QString said = QString::fromUtf8(process.readAll());
   const auto totals =
       QRegularExpression(R"((\d+) commands, (\d+) bytes out to the board, (\d+) bytes back)").match(said);
+  if (!totals.hasMatch())
+    throw std::runtime_error("the virtual board did not end well: " + said.toStdString());
   return {totals.captured(1).toULongLong(), totals.captured(2).toULongLong(),
           totals.captured(3).toULongLong()};
 }

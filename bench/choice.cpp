@@ -6,13 +6,22 @@
 
 namespace bench {
 
-void Choose(const std::string& chip) {
-  using wrenbit::frmMain;
+using wrenbit::frmMain;
+
+void Check_Window() {
   if (!frmMain.Visible()) throw std::runtime_error("the window was closed in the midst");
+}
+
+void Choose_Device(const std::string& chip) {
+  Check_Window();
   auto& list = frmMain.Combo_device;
   for (int i = 0; i < list.ListCount(); ++i)
     if (list.List(i).starts_with(chip)) list.Set_ListIndex(i);
   if (!list.Text().starts_with(chip)) throw std::runtime_error("no chip in the list: " + chip);
+}
+
+void Choose(const std::string& chip) {
+  Choose_Device(chip);
   frmMain.CmbSize.Set_ListIndex(frmMain.CmbSize.ListCount() - 1);
 }
 

@@ -7,8 +7,12 @@
 
 namespace bench {
 
-// The chip and its whole size as the block, as a user chooses them. Throws std::runtime_error for one that is
-// not in the list, and when the window has been closed, as a signal to end does.
+// Throws std::runtime_error when the main window has been closed, as a signal to end does.
+void Check_Window();
+
+// The chip, and its whole size as the block, as a user chooses them. Throw std::runtime_error for one that is
+// not in the list, and when the window has been closed.
+void Choose_Device(const std::string& chip);
 void Choose(const std::string& chip);
 
 // Bytes of which none is its neighbour's.

@@ -2,21 +2,27 @@
 
 #include <QRegularExpression>
 #include <QStandardPaths>
-#include <QTemporaryDir>
 #include <iostream>
 #include <stdexcept>
+#include <vector>
 
 #include "choice.h"
+#include "image_buffer.h"
 #include "intel_hex.h"
+#include "median.h"
 #include "plain_file.h"
 #include "process.h"
 #include "state.h"
+#include "temporary_folder.h"
 #include "whole_file.h"
 
 namespace bench {
 namespace {
 
 using wrenbit::ImageBuffer;
+
+constexpr int kRuns = 11;
+constexpr const char* kTheirFile = ".theirs";
 
 struct Converter {
   QString Program;
@@ -33,33 +39,46 @@ double Convert(const QString& program, QStringList words, const QString& in, con
   return Run_Process(program, words).Seconds;
 }
 
+std::vector<std::uint8_t> Binary_Bytes(const QString& path) {
+  const std::string bytes = Plain_Read(path.toStdString());
+  return {bytes.begin(), bytes.end()};
+}
+
+std::vector<std::uint8_t> Hex_Bytes(const QString& path) {
+  wrenbit::Image_Create();
+  wrenbit::Intel_Hex_Load(Plain_Read(path.toStdString()));
+  return ImageBuffer;
+}
+
 }  // namespace
 
 void Measure_Conversions(Report& report) {
-  report.Begin("Files: conversions by whole processes");
-  const QTemporaryDir folder;
+  report.Begin("Files: conversions by whole processes; ours flushes to the disk");
+  const Temporary_Folder folder;
   Choose("AT24C1024");
-  ImageBuffer = Pattern(ImageBuffer.size());
-  const std::string bytes = std::to_string(ImageBuffer.size()) + " bytes, ";
-  const QString binary = folder.filePath("image.bin"), hex = folder.filePath("image.hex");
+  const std::vector<std::uint8_t> image = Pattern(ImageBuffer.size());
+  ImageBuffer = image;
+  const std::string bytes = std::to_string(image.size()) + " bytes, ";
+  const QString binary = folder.File("image.bin"), hex = folder.File("image.hex");
   wrenbit::Write_Whole_File(hex.toStdString(), wrenbit::Intel_Hex_Text());
   const Converter ours{
-      Beside_This("hex-convert"), {"IN", "OUT", QString::number(ImageBuffer.size())}, {"IN", "OUT"}};
+      Beside_This("hex-convert"), {"IN", "OUT", QString::number(image.size())}, {"IN", "OUT"}};
   for (const Converter& theirs : kTheirs) {
     if (QStandardPaths::findExecutable(theirs.Program).isEmpty()) {
       std::cerr << theirs.Program.toStdString() << " is not installed.\n";
       continue;
     }
     const auto in_turns = [&](const char* subject, auto words, const QString& in, const QString& out) {
-      const auto [our, their] =
-          In_Turns([&] { return Convert(ours.Program, ours.*words, in, out); },
-                   [&] { return Convert(theirs.Program, theirs.*words, in, out + ".theirs"); });
+      const auto [our, their] = In_Turns(
+          kRuns, [&] { return Convert(ours.Program, ours.*words, in, out); },
+          [&] { return Convert(theirs.Program, theirs.*words, in, out + kTheirFile); });
       report.Add({bytes + subject, our, theirs.Program.toStdString(), their, "s", {}});
     };
     in_turns("Intel HEX to binary", &Converter::To_Binary, hex, binary);
-    if (Plain_Read(binary.toStdString()) != Plain_Read((binary + ".theirs").toStdString()))
-      throw std::runtime_error("the conversions differ");
     in_turns("binary to Intel HEX", &Converter::To_Hex, binary, hex);
+    for (const char* whose : {"", kTheirFile})
+      if (Binary_Bytes(binary + whose) != image || Hex_Bytes(hex + whose) != image)
+        throw std::runtime_error("a conversion made other bytes");
   }
 }
 

@@ -1,6 +1,5 @@
 #include "file_costs.h"
 
-#include <QTemporaryDir>
 #include <fstream>
 #include <stdexcept>
 
@@ -10,6 +9,7 @@
 #include "pairs.h"
 #include "plain_file.h"
 #include "state.h"
+#include "temporary_folder.h"
 #include "whole_file.h"
 
 namespace bench {
@@ -67,10 +67,10 @@ void Measure_Image(Report& report, const std::string& path) {
 
 void Measure_Files(Report& report) {
   report.Begin("Files: Intel HEX");
-  const QTemporaryDir folder;
+  const Temporary_Folder folder;
   for (const char* chip : {"24C512", "AT24C1024"}) {
     Choose(chip);
-    Measure_Image(report, folder.filePath("image.hex").toStdString());
+    Measure_Image(report, folder.File("image.hex").toStdString());
   }
 }
 

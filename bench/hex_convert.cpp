@@ -2,6 +2,7 @@
 // bytes stands for a chip that is loaded from Intel HEX; without it a binary file is saved as Intel HEX.
 #include <exception>
 #include <iostream>
+#include <stdexcept>
 #include <string>
 
 #include "intel_hex.h"
@@ -18,6 +19,7 @@ int main(int argc, char** argv) try {
     wrenbit::Intel_Hex_Load(*in);
     out.assign(wrenbit::ImageBuffer.begin(), wrenbit::ImageBuffer.end());
   } else {
+    if (in->size() % 16 != 0) throw std::runtime_error("the program's images consist of rows of 16 bytes");
     wrenbit::ImageBuffer.assign(in->begin(), in->end());
     out = wrenbit::Intel_Hex_Text();
   }

@@ -2,13 +2,15 @@
 
 #include <benchmark/benchmark.h>
 
-#include <algorithm>
 #include <map>
+
+#include "choice.h"
+#include "median.h"
 
 namespace bench {
 namespace {
 
-constexpr int kRepetitions = 9;
+constexpr int kRounds = 9;
 
 // Gathers seconds per call, by the benchmark's name, and prints nothing.
 class Gatherer : public benchmark::BenchmarkReporter {
@@ -20,11 +22,7 @@ class Gatherer : public benchmark::BenchmarkReporter {
         seconds[run.run_name.function_name].push_back(run.real_accumulated_time /
                                                       static_cast<double>(run.iterations));
   }
-  double Median(const std::string& name) {
-    auto& all = seconds.at(name);
-    std::ranges::sort(all);
-    return all[all.size() / 2];
-  }
+  double Of(const std::string& name) const { return Median(seconds.at(name)); }
 
  private:
   std::map<std::string, std::vector<double>> seconds;
@@ -32,18 +30,15 @@ class Gatherer : public benchmark::BenchmarkReporter {
 
 void Register(const std::string& name, const std::function<void()>& work,
               const std::function<void()>& settle) {
-  benchmark::RegisterBenchmark(name.c_str(),
-                               [work, settle](benchmark::State& state) {
-                                 for (auto _ : state) {
-                                   work();
-                                   if (!settle) continue;
-                                   state.PauseTiming();
-                                   settle();
-                                   state.ResumeTiming();
-                                 }
-                               })
-      ->Repetitions(kRepetitions)
-      ->MinTime(0.02);
+  benchmark::RegisterBenchmark(name.c_str(), [work, settle](benchmark::State& state) {
+    for (auto _ : state) {
+      work();
+      if (!settle) continue;
+      state.PauseTiming();
+      settle();
+      state.ResumeTiming();
+    }
+  })->MinTime(0.02);
 }
 
 }  // namespace
@@ -55,12 +50,13 @@ std::vector<double> Measure_Pairs(Report& report, const std::vector<Pair>& pairs
     Register("reference" + std::to_string(i), pairs[i].Reference, pairs[i].Settle);
   }
   Gatherer gathered;
-  benchmark::RunSpecifiedBenchmarks(&gathered);
+  for (int round = 0; round < kRounds; ++round) benchmark::RunSpecifiedBenchmarks(&gathered, "all");
+  Check_Window();
   std::vector<double> works;
   for (std::size_t i = 0; i < pairs.size(); ++i) {
-    works.push_back(gathered.Median("work" + std::to_string(i)));
-    report.Add({pairs[i].Subject, works.back(), pairs[i].Beside,
-                gathered.Median("reference" + std::to_string(i)), "s", pairs[i].Goal});
+    works.push_back(gathered.Of("work" + std::to_string(i)));
+    report.Add({pairs[i].Subject, works.back(), pairs[i].Beside, gathered.Of("reference" + std::to_string(i)),
+                "s", pairs[i].Goal});
   }
   return works;
 }

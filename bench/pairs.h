@@ -19,7 +19,8 @@ struct Pair {
   std::optional<double> Goal;    // Work over Reference is to stay below it.
 };
 
-// A line for each pair: medians of the repetitions, in wall time. Gives what the works took, in seconds.
+// A line for each pair: medians of several rounds through all of them, in wall time. Gives what the works
+// took, in seconds. Throws std::runtime_error when the window was closed meanwhile.
 std::vector<double> Measure_Pairs(Report& report, const std::vector<Pair>& pairs);
 
 }  // namespace bench

@@ -2,24 +2,11 @@
 
 #include <QCoreApplication>
 #include <QProcess>
-#include <algorithm>
 #include <stdexcept>
-#include <vector>
 
 #include "measure.h"
 
 namespace bench {
-namespace {
-
-constexpr int kRuns = 11;
-
-double Median(std::vector<double> values) {
-  std::ranges::sort(values);
-  return values[values.size() / 2];
-}
-
-}  // namespace
-
 Finished Run_Process(const QString& program, const QStringList& arguments,
                      const QProcessEnvironment& environment) {
   QProcess process;
@@ -37,14 +24,5 @@ Finished Run_Process(const QString& program, const QStringList& arguments,
 }
 
 QString Beside_This(const QString& program) { return QCoreApplication::applicationDirPath() + "/" + program; }
-
-Medians In_Turns(const std::function<double()>& first, const std::function<double()>& second) {
-  std::vector<double> firsts, seconds;
-  for (int run = 0; run < kRuns; ++run) {
-    firsts.push_back(first());
-    seconds.push_back(second());
-  }
-  return {Median(firsts), Median(seconds)};
-}
 
 }  // namespace bench

@@ -1,17 +1,16 @@
-// Other programs, from their start to their end.
+// Other programs, run to their end.
 #pragma once
 
 #include <QByteArray>
 #include <QProcessEnvironment>
 #include <QString>
 #include <QStringList>
-#include <functional>
 
 namespace bench {
 
 struct Finished {
-  double Seconds = 0;
-  QByteArray Said;  // On its standard output.
+  double Seconds = 0;  // From its start to its end.
+  QByteArray Said;     // On its standard output.
 };
 
 // Throws std::runtime_error when it does not come up or ends with an error.
@@ -20,11 +19,5 @@ Finished Run_Process(const QString& program, const QStringList& arguments,
 
 // The path of a program that lies beside this one.
 QString Beside_This(const QString& program);
-
-// Medians in seconds of what two functions give, which are called in turns.
-struct Medians {
-  double First, Second;
-};
-Medians In_Turns(const std::function<double()>& first, const std::function<double()>& second);
 
 }  // namespace bench

@@ -19,6 +19,8 @@ wrenbit::Port_Fault Recording_Port::Open(int number, bool rts, bool dtr) {
   return port.Open(number, rts, dtr);
 }
 
+std::size_t Recording_Port::Waiting() { return waiting = port.Waiting(); }
+
 std::vector<std::uint8_t> Recording_Port::Take() {
   std::vector<std::uint8_t> bytes = port.Take();
   Count(bytes.size());
@@ -26,7 +28,7 @@ std::vector<std::uint8_t> Recording_Port::Take() {
 }
 
 void Recording_Port::Drop() {
-  Count(port.Waiting());
+  Count(waiting);
   port.Drop();
 }
 

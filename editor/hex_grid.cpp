@@ -45,8 +45,7 @@ class Byte_Texts {
   explicit Byte_Texts(Text_Of_Byte text_of) {
     for (unsigned byte = 0; byte < entries.size(); ++byte) {
       const std::string text = text_of(static_cast<std::uint8_t>(byte));
-      text.copy(entries[byte].Text.data(), entries[byte].Text.size());
-      entries[byte].Length = text.size();
+      entries[byte].Length = text.copy(entries[byte].Text.data(), kRoom);
     }
   }
   static constexpr std::size_t kRoom = 8;

@@ -18,7 +18,8 @@ std::string Qt_Settings::Get(const std::string& section, const std::string& key,
 }
 
 void Qt_Settings::Save(const std::string& section, const std::string& key, const std::string& value) {
-  // What stands there already costs no wait for the disk. A failed save is tried again.
+  // What stands in the file already costs no wait for the disk. A failed save is tried again.
+  store.sync();
   const QString path = Path(section, key);
   const QString text = QString::fromStdString(value);
   if (store.status() == QSettings::NoError && store.contains(path) && store.value(path) == text) return;

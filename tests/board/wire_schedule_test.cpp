@@ -17,6 +17,7 @@ TEST(Wire_Schedule, CarriesBytesOneAfterTheOtherInEachDirection) {
   EXPECT_EQ(wire.Arrival(now), now + kByteTime);
   EXPECT_EQ(wire.Arrival(now), now + 2 * kByteTime);
   EXPECT_EQ(wire.Departure(now), now + kByteTime) << "the other direction is free";
+  EXPECT_EQ(wire.Departure(now), now + 2 * kByteTime);
   EXPECT_EQ(wire.Departure(now + 1s), now + 1s + kByteTime) << "a rest of the wire is not made up for";
 
   Wire_Schedule none({});
@@ -28,6 +29,7 @@ TEST(Wire_Schedule, HoldsRepliesBackForTheTurnsOfAnAdapter) {
   const Time turn(160ms);
   EXPECT_EQ(adapter.Departure(turn + 1ms), turn + 16ms);
   EXPECT_EQ(adapter.Departure(turn + 15ms), turn + 16ms) << "what has come by then comes together";
+  EXPECT_EQ(adapter.Departure(turn + 16ms), turn + 32ms) << "too late for the turn at that time";
   EXPECT_EQ(adapter.Departure(turn + 17ms), turn + 32ms);
   EXPECT_EQ(adapter.Arrival(turn + 18ms), turn + 18ms) << "what the PC sends is not held back";
 }
@@ -39,6 +41,8 @@ TEST(Wire_Schedule, IsAwakeWhileThePacedWireIsInUse) {
   wire.Arrival(now);
   EXPECT_TRUE(wire.Awake(now + 2ms));
   EXPECT_FALSE(wire.Awake(now + 1s));
+  wire.Departure(now + 1s);
+  EXPECT_TRUE(wire.Awake(now + 1s));
 }
 
 }  // namespace

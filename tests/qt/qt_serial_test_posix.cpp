@@ -156,6 +156,7 @@ TEST_F(SerialPort, AnUnpluggedPortIsNoticedAtOnceLeavesTheProcessorIdleAndMayCom
     ThePlatform->DoEvents();  // What is left of the lost port must not close the new one.
     EXPECT_FALSE(port.Lost());
     Arrive({9});
+    EXPECT_EQ(port.Waiting(), 1u);
     EXPECT_EQ(port.Take(), Bytes{9});
   }
 }

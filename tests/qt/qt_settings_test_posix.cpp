@@ -1,6 +1,8 @@
 #include <gtest/gtest.h>
 
+#include <QDateTime>
 #include <QFile>
+#include <QFileInfo>
 #include <QTemporaryDir>
 
 #include "number_text.h"
@@ -40,11 +42,14 @@ TEST(Settings, AnUnchangedValueIsNotWrittenAgain) {
   const QTemporaryDir folder;
   const QString path = folder.filePath("settings.ini");
   Qt_Settings(path).Save("Settings", "DUT", "12");
-  Qt_Settings settings(path);
-  ASSERT_TRUE(QFile::remove(path));
-  EXPECT_EQ(settings.Get("Settings", "DUT", "0"), "12");
-  settings.Save("Settings", "DUT", "12");
-  EXPECT_FALSE(QFile::exists(path));
+  const QDateTime written(QDate(2020, 1, 1), QTime(12, 0));
+  {
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+    ASSERT_TRUE(file.setFileTime(written, QFileDevice::FileModificationTime));
+  }
+  Qt_Settings(path).Save("Settings", "DUT", "12");
+  EXPECT_EQ(QFileInfo(path).lastModified(), written);
 }
 
 TEST(Settings, AStoreThatCannotBeWrittenKeepsTheValueForTheRun) {
@@ -55,6 +60,9 @@ TEST(Settings, AStoreThatCannotBeWrittenKeepsTheValueForTheRun) {
   settings.Save("Settings", "DUT", "1");
   settings.Save("Settings", "DUT", "2");
   EXPECT_EQ(settings.Get("Settings", "DUT", "0"), "2");
+  ASSERT_TRUE(in_the_way.remove());
+  settings.Save("Settings", "DUT", "2");
+  EXPECT_EQ(Qt_Settings(folder.filePath("wrenbit/settings.ini")).Get("Settings", "DUT", "0"), "2");
 }
 
 TEST(Settings, ADamagedFileGivesTheDefaultAndTakesANewValue) {
