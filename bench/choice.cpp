@@ -3,6 +3,7 @@
 #include <stdexcept>
 
 #include "frm_main.h"
+#include "platform.h"
 
 namespace bench {
 
@@ -23,6 +24,7 @@ void Choose_Device(const std::string& chip) {
 void Choose(const std::string& chip) {
   Choose_Device(chip);
   frmMain.CmbSize.Set_ListIndex(frmMain.CmbSize.ListCount() - 1);
+  wrenbit::DoEvents();
 }
 
 std::vector<std::uint8_t> Pattern(std::size_t size) {

@@ -13,6 +13,7 @@ void Check_Window();
 // The chip, and its whole size as the block, as a user chooses them. Throw std::runtime_error for one that is
 // not in the list, and when the window has been closed.
 void Choose_Device(const std::string& chip);
+// This one is also painted behind it.
 void Choose(const std::string& chip);
 
 // Bytes of which none is its neighbour's.
