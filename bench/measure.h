@@ -10,6 +10,7 @@ struct Spent {
   double Processor = 0;  // Seconds of this process, all its threads.
 };
 
+// By the monotonic clock, which no setting of the time moves.
 Spent Spend(const std::function<void()>& work);
 
 }  // namespace bench

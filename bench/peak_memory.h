@@ -1,3 +1,4 @@
+// The memory of this process.
 #pragma once
 
 #include <cstdint>

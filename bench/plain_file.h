@@ -1,4 +1,4 @@
-// Files as a program reads and writes them that cares for nothing.
+// Files as a program reads and writes them that cares for nothing. Throw std::runtime_error when it fails.
 #pragma once
 
 #include <string>

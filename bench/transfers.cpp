@@ -71,7 +71,8 @@ struct Run {
   Traffic Passed;
 };
 
-// The image begins as something else than the chip, so that only a transfer makes them equal.
+// Presses the button with the chip chosen and a fresh board behind the port. The image begins as something
+// else than the chip, so that only a transfer makes them equal; throws when they are not.
 Run Transfer(const wrenbit::CommandButton& button, const Case& what, const QStringList& options) {
   Choose(what.Chip);
   const Chip_File chip(ImageBuffer.size());

@@ -34,7 +34,7 @@ class Serial_Backend {
   virtual bool Lost() = 0;
   // Bytes that have arrived and are not yet taken.
   virtual std::size_t Waiting() = 0;
-  // All that Waiting told of, at least.
+  // What Waiting told of at its last call, at least: need not ask the system once more.
   virtual std::vector<std::uint8_t> Take() = 0;
   virtual void Drop() = 0;
   // Goes out at once and in one piece. False when the port is lost or the system refuses, which may take a
