@@ -9,8 +9,8 @@
 
 namespace wrenbit {
 
-// The file: all of the image, whose size is a multiple of 16, in records of sixteen bytes, ascending, then the
-// end record. Lines end in CR LF.
+// The file: all of the image, whose size is a multiple of 16, in records of sixteen bytes, ascending, then
+// the end record. Lines end in CR LF.
 std::string Intel_Hex_Text();
 
 // Stores the data records of a file into the image, in the order of the file; bytes that it doesn't mention
