@@ -39,11 +39,6 @@ double Convert(const QString& program, QStringList words, const QString& in, con
   return Run_Process(program, words).Seconds;
 }
 
-std::vector<std::uint8_t> Binary_Bytes(const QString& path) {
-  const std::string bytes = Plain_Read(path.toStdString());
-  return {bytes.begin(), bytes.end()};
-}
-
 std::vector<std::uint8_t> Hex_Bytes(const QString& path) {
   wrenbit::Image_Create();
   wrenbit::Intel_Hex_Load(Plain_Read(path.toStdString()));
@@ -77,7 +72,7 @@ void Measure_Conversions(Report& report) {
     in_turns("Intel HEX to binary", &Converter::To_Binary, hex, binary);
     in_turns("binary to Intel HEX", &Converter::To_Hex, binary, hex);
     for (const char* whose : {"", kTheirFile})
-      if (Binary_Bytes(binary + whose) != image || Hex_Bytes(hex + whose) != image)
+      if (Plain_Bytes((binary + whose).toStdString()) != image || Hex_Bytes(hex + whose) != image)
         throw std::runtime_error("a conversion made other bytes");
   }
 }

@@ -19,6 +19,11 @@ std::string Plain_Read(const std::string& path) {
   return text;
 }
 
+std::vector<std::uint8_t> Plain_Bytes(const std::string& path) {
+  const std::string text = Plain_Read(path);
+  return {text.begin(), text.end()};
+}
+
 void Plain_Write(const std::string& path, std::string_view text, Durable durable) {
   const int file = open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666);
   const bool written = write(file, text.data(), text.size()) == static_cast<ssize_t>(text.size()) &&

@@ -7,6 +7,7 @@
 #include "measure.h"
 
 namespace bench {
+
 Finished Run_Process(const QString& program, const QStringList& arguments,
                      const QProcessEnvironment& environment) {
   QProcess process;

@@ -1,6 +1,5 @@
 #include "transfers.h"
 
-#include <QFile>
 #include <algorithm>
 #include <optional>
 #include <stdexcept>
@@ -12,6 +11,7 @@
 #include "frm_main.h"
 #include "measure.h"
 #include "median.h"
+#include "plain_file.h"
 #include "recording_port.h"
 #include "state.h"
 #include "temporary_folder.h"
@@ -43,18 +43,10 @@ class Chip_File {
  public:
   explicit Chip_File(std::size_t size) {
     const std::vector<std::uint8_t> bytes = Pattern(size);
-    QFile file(Path());
-    if (!file.open(QFile::WriteOnly) || file.write(reinterpret_cast<const char*>(bytes.data()),
-                                                   static_cast<qint64>(size)) != static_cast<qint64>(size))
-      throw std::runtime_error("the chip's file cannot be written");
+    Plain_Write(Path().toStdString(), {reinterpret_cast<const char*>(bytes.data()), size}, Durable::No);
   }
   QString Path() const { return folder.File("chip.bin"); }
-  std::vector<std::uint8_t> Bytes() const {
-    QFile file(Path());
-    if (!file.open(QFile::ReadOnly)) return {};
-    const QByteArray bytes = file.readAll();
-    return {bytes.begin(), bytes.end()};
-  }
+  std::vector<std::uint8_t> Bytes() const { return Plain_Bytes(Path().toStdString()); }
 
  private:
   Temporary_Folder folder;

@@ -52,7 +52,7 @@ void Take_In(const char* chip) {
   Choose(chip);
   ImageBuffer = Pattern(ImageBuffer.size());
   wrenbit::Grid_Refill();
-  QCoreApplication::processEvents();
+  Paint();
 }
 
 void Measure_Keystroke(Report& report, QWidget& box_view) {
