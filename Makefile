@@ -1,6 +1,6 @@
 # The short words for what people do here. Each installs what is missing, builds, and does its job.
 
-.PHONY: run test bench clean
+.PHONY: run test bench package clean
 
 run:
 	@scripts/install-packages build
@@ -13,6 +13,10 @@ test:
 bench:
 	@scripts/install-packages build bench
 	@scripts/bench
+
+package:
+	@scripts/install-packages build package
+	@scripts/package
 
 clean:
 	rm -rf build

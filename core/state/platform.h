@@ -9,9 +9,9 @@ namespace wrenbit {
 // Facts of the program; the platform fills in what it knows before Main runs.
 struct App_Facts {
   std::string Title = "wrenbit";
-  int Major = 1;
-  int Minor = 2;
-  int Revision = 10;
+  int Major = WRENBIT_VERSION_MAJOR;  // As the build has them.
+  int Minor = WRENBIT_VERSION_MINOR;
+  int Revision = WRENBIT_VERSION_PATCH;
   std::string FileDescription =
       "TOLVEX Programmerを使用し、シリアルＥＥＰＲＯＭにプログラミングするためのソフトです。";
   std::string Comments;

@@ -52,6 +52,8 @@ Program::Program(int& argc, char** argv)
       serial((Config_Folder() + QStringLiteral("/ports")).toStdString()) {
   Install_Accessibility();
   QApplication::setApplicationName(QString::fromStdString(App.Title));
+  QApplication::setDesktopFileName(
+      QApplication::applicationName());  // By it a dock finds the menu entry's icon.
   QApplication::setStyle(new Fitting_Style);
   QApplication::setFont(Font_For({}));
   QApplication::setWindowIcon(Icon_Of(Picture::Program));
