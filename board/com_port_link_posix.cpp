@@ -4,8 +4,10 @@
 #include <unistd.h>
 
 #include <cerrno>
+#include <chrono>
 #include <cstdlib>
 #include <stdexcept>
+#include <thread>
 
 #include "com_port_link.h"
 
@@ -50,6 +52,17 @@ bool Names_File(const fs::path& path, int file) {
          named.st_ino == open.st_ino;
 }
 
+// True when the lock is ours. A program that looks whether a board lives shares the lock for a moment.
+bool Lock_Alone(int file) {
+  constexpr int kTries = 20;
+  for (int tries = 1; flock(file, LOCK_EX | LOCK_NB) != 0; ++tries) {
+    if (errno != EWOULDBLOCK) Throw_Errno("flock");
+    if (tries == kTries) return false;
+    std::this_thread::sleep_for(std::chrono::milliseconds(10));
+  }
+  return true;
+}
+
 }  // namespace
 
 Com_Port_Lock::Com_Port_Lock(const fs::path& link) : Path(With_Suffix(link, ".lock")) {
@@ -59,9 +72,8 @@ Com_Port_Lock::Com_Port_Lock(const fs::path& link) : Path(With_Suffix(link, ".lo
   do {
     File = Descriptor(open(Path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0666));
     if (!File) Throw_Errno(Path.string());
-    if (flock(*File, LOCK_EX | LOCK_NB) == 0) continue;
-    if (errno != EWOULDBLOCK) Throw_Errno(Path.string());
-    throw std::runtime_error("another board is on " + link.filename().string() + " (" + link.string() + ")");
+    if (!Lock_Alone(*File))
+      throw std::runtime_error("another board is on " + link.filename().string() + " (" + link.string() + ")");
   } while (!Names_File(Path, *File));
 }
 

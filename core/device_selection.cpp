@@ -34,10 +34,10 @@ std::string Spec_Text(const Device_Row& row) {
 }
 
 // One entry for each power of two up to the chip's size. The size chosen before stays, if the chip is that
-// large.
+// large; past a device without a usable size, too.
 void Rebuild_Block_Sizes() {
   ComboBox& sizes = frmMain.CmbSize;
-  const int before = sizes.ListIndex();
+  const int before = AccessSize - kSmallestBlock;
   sizes.Clear();
   if (!Image_Usable()) return;
   for (int exponent = kSmallestBlock; exponent <= MemSize; ++exponent)

@@ -5,6 +5,7 @@
 #include "image_buffer.h"
 #include "intel_hex.h"
 #include "platform.h"
+#include "refusal.h"
 #include "settings.h"
 #include "state.h"
 #include "whole_file.h"
@@ -34,19 +35,21 @@ std::string Folder_Of(const std::string& path, const std::string& title) {
 
 void mnuFileOpen_Click() {
   constexpr const char* kNotOpened = "ファイルをオープンできませんでした。";
+  if (!Image_Usable()) return Message(kWrongSize);
   Message("しばらくお待ちください。");
   Prepare_Dialog(key::kOpenDir, "Hexファイル|*.HEX|全てのファイル|*.*|");
   frmMain.dlgCommonDialog.FileName = "*.HEX";
   if (!frmMain.dlgCommonDialog.ShowOpen()) return Message(kNotOpened);
   HexFilePath = frmMain.dlgCommonDialog.FileName;
-  if (!File_Exists(HexFilePath)) return Message(kNotOpened);
+  const std::optional<std::string> text = Read_Whole_File(HexFilePath);
+  if (!text) return Message(kNotOpened);
   Remember_Folder(key::kOpenDir);
   frmMain.Set_Caption(MainTitle + HexFilePath);
 
   frmMain.Set_MousePointer(Pointer::Hourglass);
   Message("ファイルをロードしています..........");
   Image_Create();
-  Intel_Hex_Load(Read_Whole_File(HexFilePath).value_or(""));
+  Intel_Hex_Load(*text);
   Grid_Refill();
   Message("ファイルオープン完了");
   frmMain.Set_MousePointer(Pointer::Default);
@@ -54,6 +57,7 @@ void mnuFileOpen_Click() {
 
 void mnuFileSaveAs_Click() {
   constexpr const char* kCancelled = "ファイル保存をキャンセルしました。";
+  if (!Image_Usable()) return Message(kWrongSize);
   Prepare_Dialog(key::kSaveDir, "Hexファイル|*.hex|全てのファイル|*.*|");
   if (!frmMain.dlgCommonDialog.ShowSave()) {
     frmMain.Set_MousePointer(Pointer::Default);

@@ -36,7 +36,7 @@ class Platform {
   virtual ~Platform() = default;
   // Delivers pending events, then comes back.
   virtual void DoEvents() = 0;
-  // Lets what has changed so far show. What the user does meanwhile waits.
+  // Lets what has changed so far show. Keys and clicks wait meanwhile; what assistive technology picks does not.
   virtual void Repaint() = 0;
   // Delivers pending events; when there are none, rests until one comes, at most for so many seconds.
   // A byte on the serial port is an event.

@@ -3,6 +3,7 @@
 #include <unistd.h>
 
 #include <QSocketNotifier>
+#include <cerrno>
 
 #include "end_signals.h"
 
@@ -13,8 +14,10 @@ int Pipe_Ends[2] = {-1, -1};
 
 // A signal handler may do hardly more than write to a pipe.
 void On_Signal(int) {
+  const int kept = errno;  // Of the call that the signal came into.
   const char wish = 1;
   [[maybe_unused]] const ssize_t written = write(Pipe_Ends[1], &wish, 1);
+  errno = kept;
 }
 
 }  // namespace
