@@ -8,6 +8,8 @@
 #include <cstdio>
 #include <iostream>
 
+#include "utf8_text.h"
+
 namespace bench {
 namespace {
 
@@ -50,8 +52,7 @@ std::string Number(double value) {
 
 // Filled up with blanks to so many characters (UTF-8, all of one width).
 std::string Wide(const std::string& text, std::size_t width, bool right = false) {
-  std::size_t length = 0;
-  for (const char c : text) length += (c & 0xC0) != 0x80;
+  const std::size_t length = wrenbit::Characters(text);
   const std::string blanks(length < width ? width - length : 0, ' ');
   return right ? blanks + text : text + blanks;
 }

@@ -13,7 +13,7 @@
 
 namespace board {
 
-// Two-wire parts first, each family in order of size.
+// Two-wire parts first.
 std::vector<std::string> Chip_Names();
 
 // Null when no part of the family has that very name.

@@ -65,14 +65,8 @@ void Three_Wire_Chip::On_Clock(bool bit) {
       State = Phase::kAddress;
       break;
 
-    case Phase::kAddress:  // Its last bit decides what follows: data out, data in, or nothing.
-      if (!Field_Complete(bit, Part.AddressBits)) break;
-      Code = Decode();
-      Address = std::exchange(Field, 0) % Part.Bytes;
-      Out = false;  // The 0 before the first cell.
-      State = Code == Instruction::kRead                                  ? Phase::kSend
-              : Code == Instruction::kWrite || Code == Instruction::kWral ? Phase::kData
-                                                                          : Phase::kWhole;
+    case Phase::kAddress:
+      if (Field_Complete(bit, Part.AddressBits)) Begin_Instruction();
       break;
 
     case Phase::kData:
@@ -90,6 +84,16 @@ void Three_Wire_Chip::On_Clock(bool bit) {
       Address = (Address + 1) % Part.Bytes;
       break;
   }
+}
+
+// Opcode and address decide what follows: data out, data in, or nothing.
+void Three_Wire_Chip::Begin_Instruction() {
+  Code = Decode();
+  Address = std::exchange(Field, 0) % Part.Bytes;
+  Out = false;  // The 0 before the first cell.
+  State = Code == Instruction::kRead                                  ? Phase::kSend
+          : Code == Instruction::kWrite || Code == Instruction::kWral ? Phase::kData
+                                                                      : Phase::kWhole;
 }
 
 void Three_Wire_Chip::On_Deselect() {

@@ -24,6 +24,7 @@ class Three_Wire_Chip : public Chip {
   void On_Clock(bool bit);
   void On_Deselect();
   void On_Supply_Lost();
+  void Begin_Instruction();
 
   bool Field_Complete(bool bit, int length);
   Instruction Decode() const;
@@ -43,7 +44,7 @@ class Three_Wire_Chip : public Chip {
   unsigned Field = 0;  // The opcode, address or data that comes in, highest bit first.
   int Bits = 0;        // Those of the field, or of the cell that goes out, that have passed.
   unsigned Opcode = 0;
-  Instruction Code = Instruction::kRead;
+  Instruction Code = Instruction::kRead;  // The one in hand.
   std::size_t Address = 0;
   bool Out = false;  // The level on DO while a cell goes out.
 

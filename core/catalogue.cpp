@@ -2,8 +2,8 @@
 
 #include "catalogue_text.h"
 #include "code_page_932.h"
-#include "number_text.h"
 #include "settings.h"
+#include "utf8_text.h"
 #include "whole_file.h"
 #include "windows.h"
 

@@ -4,12 +4,13 @@
 
 #include "number_text.h"
 #include "text_field_reader.h"
+#include "utf8_text.h"
 
 namespace wrenbit {
 namespace {
 
 struct Number_Column {
-  Column At;
+  Device_Column At;
   const char* Name;
 };
 constexpr std::array<Number_Column, 5> kNumberColumns{{{kFamily, "ファミリ"},
@@ -77,7 +78,7 @@ Catalogue Read_Catalogue(std::string_view text) {
   return catalogue;
 }
 
-std::int32_t Number_Cell(const Device_Row& row, Column column) {
+std::int32_t Number_Cell(const Device_Row& row, Device_Column column) {
   return Whole_Number(row[column]).value_or(0);
 }
 

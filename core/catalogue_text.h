@@ -18,7 +18,7 @@
 namespace wrenbit {
 
 // The columns of a device row. Behind the last one, up to kTableColumns, they are kept and not used.
-enum Column {
+enum Device_Column {
   kName,
   kNameTail,     // Shown behind the name.
   kFamily,       // 2 = 24Cxx, 3 = 93Cxx.
@@ -57,6 +57,6 @@ inline constexpr std::size_t kMostProblems = 1000;
 Catalogue Read_Catalogue(std::string_view text);
 
 // A number column as the program uses it: empty and no number are 0.
-std::int32_t Number_Cell(const Device_Row& row, Column column);
+std::int32_t Number_Cell(const Device_Row& row, Device_Column column);
 
 }  // namespace wrenbit

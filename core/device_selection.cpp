@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "block_transfer.h"
 #include "catalogue_text.h"
 #include "frm_main.h"
 #include "hex_grid.h"
@@ -10,8 +11,6 @@
 
 namespace wrenbit {
 namespace {
-
-constexpr int kSmallestBlock = 4;  // As a power of two: 16 bytes.
 
 std::string Size_Text() {
   // A power that no chip has would not fit the number either.
@@ -36,13 +35,11 @@ std::string Spec_Text(const Device_Row& row) {
 // One entry for each power of two up to the chip's size. The size chosen before stays, if the chip is that
 // large; past a device without a usable size, too.
 void Rebuild_Block_Sizes() {
-  ComboBox& sizes = frmMain.CmbSize;
   const int before = AccessSize - kSmallestBlock;
-  sizes.Clear();
+  frmMain.CmbSize.Clear();
   if (!Image_Usable()) return;
-  for (int exponent = kSmallestBlock; exponent <= MemSize; ++exponent)
-    sizes.AddItem(std::to_string(1L << exponent));
-  sizes.Set_ListIndex(std::clamp(before, 0, sizes.ListCount() - 1));
+  Offer_Block_Sizes(MemSize);
+  frmMain.CmbSize.Set_ListIndex(std::clamp(before, 0, frmMain.CmbSize.ListCount() - 1));
 }
 
 }  // namespace
@@ -64,6 +61,11 @@ void Combo_device_Click() {
   SaveSetting(key::kDut, std::to_string(frmMain.Combo_device.ListIndex()));
   frmMain.sbStatusBar.Set_Panel(1, "");
   Rebuild_Block_Sizes();
+}
+
+void Offer_Block_Sizes(int exponent) {
+  frmMain.CmbSize.Clear();
+  for (int at = kSmallestBlock; at <= exponent; ++at) frmMain.CmbSize.AddItem(std::to_string(1L << at));
 }
 
 void CmbSize_Click() {

@@ -7,6 +7,9 @@ namespace wrenbit {
 // block-size list that fits the chip. Stores the choice. What the image held is gone.
 void Combo_device_Click();
 
+// Fills CmbSize with the powers of two from 16 up to 2^exponent bytes. Selects none.
+void Offer_Block_Sizes(int exponent);
+
 // Takes the block size from CmbSize and stores the choice.
 void CmbSize_Click();
 

@@ -1,11 +1,11 @@
 #include "file_commands.h"
 
+#include "app.h"
 #include "frm_main.h"
 #include "hex_grid.h"
 #include "image_buffer.h"
 #include "intel_hex.h"
 #include "platform.h"
-#include "refusal.h"
 #include "settings.h"
 #include "state.h"
 #include "whole_file.h"

@@ -4,10 +4,12 @@
 #include <string>
 #include <vector>
 
+#include "app.h"
 #include "catalogue.h"
 #include "cell_selection.h"
 #include "platform.h"
 #include "state.h"
+#include "whole_file.h"
 #include "windows.h"
 
 namespace wrenbit {

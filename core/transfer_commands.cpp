@@ -5,11 +5,11 @@
 #include "c93_block.h"
 #include "c93_byte.h"
 #include "cell_selection.h"
+#include "failure.h"
 #include "frm_main.h"
 #include "hex_grid.h"
 #include "image_buffer.h"
 #include "mscomm.h"
-#include "refusal.h"
 #include "state.h"
 
 namespace wrenbit {
@@ -28,7 +28,7 @@ void Set_Commands_Enabled(bool enabled) {
 
 using Engine = void (*)();
 void Run_Engine(Engine c24, Engine c93) {
-  if (!Image_Usable()) return Refuse_Transfer(kWrongSize);
+  if (!Image_Usable()) return Fail(kWrongSize);
   if (DeviceFamily == 2) c24();
   if (DeviceFamily == 3) c93();
 }

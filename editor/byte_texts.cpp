@@ -15,7 +15,7 @@ bool Katakana_Or_Blank(std::uint8_t byte) { return byte >= 0xA0 && byte <= 0xDF;
 
 }  // namespace
 
-std::string Byte_Cell(std::uint8_t byte) { return "0x" + Hex_Text(byte, 2); }
+std::string Cell_Text(std::uint8_t byte) { return "0x" + Hex_Text(byte, 2); }
 
 // Blank, double quote and comma would be lost to the eye, or part the cells of a row where it is pasted
 // elsewhere.

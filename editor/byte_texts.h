@@ -15,7 +15,7 @@
 namespace wrenbit {
 
 // "0x0A"
-std::string Byte_Cell(std::uint8_t byte);
+std::string Cell_Text(std::uint8_t byte);
 
 // UTF-8, one character of code page 932.
 std::string Refill_Character(std::uint8_t byte);

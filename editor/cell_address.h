@@ -18,6 +18,9 @@ constexpr std::int32_t Address_Of_Cell(int row, int col) { return (row - 1) * kB
 // The current cell of MSFGrid1. Worked out afresh at each call: the cell is the selection, nothing else is.
 std::int32_t Current_Address();
 
+// Moves the current cell from the ASCII column to the last byte of its row.
+void Leave_Ascii_Column();
+
 // True when the current cell stands for a byte that the image has.
 bool Current_Cell_In_Image();
 

@@ -9,7 +9,7 @@
 namespace wrenbit {
 
 void MSFGrid1_Click() {
-  if (frmMain.MSFGrid1.Col() == kAsciiCol) frmMain.MSFGrid1.Set_Col(kLastByteCol);
+  Leave_Ascii_Column();
   if (UpdatingControls) return;
   if (!Current_Cell_In_Image()) return;
   const std::int32_t address = Current_Address();

@@ -12,6 +12,7 @@
 #include "image_buffer.h"
 #include "number_text.h"
 #include "state.h"
+#include "utf8_text.h"
 
 namespace wrenbit {
 namespace {
@@ -37,7 +38,7 @@ void Edit_Byte(std::optional<std::uint8_t> (*new_byte)(), const Control* left_al
   std::uint8_t& byte = ImageBuffer[static_cast<std::size_t>(Current_Address())];
   byte = new_byte().value_or(byte);
   Edit_Panel_Show(byte, Edit_Character(byte), left_alone);
-  frmMain.MSFGrid1.Set_Text(Byte_Cell(byte));
+  frmMain.MSFGrid1.Set_Text(Cell_Text(byte));
   Show_Row_Text();
   frmMain.LblCheckSUM.Set_Caption(CheckSum_Text());
   UpdatingControls = 0;

@@ -39,10 +39,10 @@ void Grid_Format() {
 
 // The texts of all byte values, worked out once: a refill joins them by the hundred thousand. Each lies in
 // eight characters, which are copied whole, whatever of them counts: that is one move of the processor.
-class Byte_Texts {
+class Text_Table {
  public:
   template <class Text_Of_Byte>
-  explicit Byte_Texts(Text_Of_Byte text_of) {
+  explicit Text_Table(Text_Of_Byte text_of) {
     for (unsigned byte = 0; byte < entries.size(); ++byte) {
       const std::string text = text_of(static_cast<std::uint8_t>(byte));
       entries[byte].Length = text.copy(entries[byte].Text.data(), kRoom);
@@ -64,16 +64,16 @@ class Byte_Texts {
 };
 
 void Fill_Rows() {
-  static const Byte_Texts pairs([](std::uint8_t byte) { return Hex_Text(byte, 2); });
-  static const Byte_Texts cells([](std::uint8_t byte) { return Byte_Cell(byte) + '\t'; });
-  static const Byte_Texts characters(Refill_Character);
+  static const Text_Table pairs([](std::uint8_t byte) { return Hex_Text(byte, 2); });
+  static const Text_Table cells([](std::uint8_t byte) { return Cell_Text(byte) + '\t'; });
+  static const Text_Table characters(Refill_Character);
   FlexGrid& grid = frmMain.MSFGrid1;
   const auto rows = static_cast<int>(ImageBuffer.size() / kBytesPerRow);
   grid.Set_Col(0);
   grid.Set_Row(0);
   grid.Set_Cols(kGridCols);
   grid.Set_Rows(rows + 1);
-  std::array<char, (2 * kBytesPerRow + 4) * Byte_Texts::kRoom> line;
+  std::array<char, (2 * kBytesPerRow + 4) * Text_Table::kRoom> line;
   for (int row = 1; row <= rows; ++row) {
     const auto first = static_cast<std::uint32_t>(Address_Of_Cell(row, kFirstByteCol));
     char* end = std::ranges::copy(std::string_view("0x"), line.data()).out;

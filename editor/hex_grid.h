@@ -3,8 +3,8 @@
 
 namespace wrenbit {
 
-// Rebuilds every row from the image, selects the first byte, and sets the checksum label. Yields once, before
-// the first row changes. An image of no size gives an empty grid, with nothing selected.
+// Rebuilds every row from the image, selects the first byte, and sets the checksum label. What has changed so
+// far shows before the first row changes. An image of no size gives an empty grid, with nothing selected.
 void Grid_Refill();
 
 // A blank image of the selected device's size, shown in the grid.

@@ -8,11 +8,6 @@
 #include "state.h"
 
 namespace wrenbit {
-namespace {
-
-constexpr std::int32_t kSmallestBlock = 4;  // As a power of two: the first entry of CmbSize.
-
-}  // namespace
 
 std::int32_t Clamp_Block() {
   if (MemSize <= AccessSize) frmMain.CmbSize.Set_ListIndex(MemSize - kSmallestBlock);

@@ -7,8 +7,12 @@
 
 namespace wrenbit {
 
-// The block's last chip address: 2^min(MemSize, AccessSize) - 1. A block size that is not below the chip's is
-// set to the chip's for good, in CmbSize and its stored setting.
+// Block sizes in CmbSize, as powers of two: 16 bytes is its first entry.
+inline constexpr std::int32_t kSmallestBlock = 4;
+inline constexpr std::int32_t kLargestBlock = 17;
+
+// The block's last chip address: 2^min(MemSize, AccessSize) - 1. A block size above the chip's is set to the
+// chip's for good, in CmbSize and its stored setting.
 std::int32_t Clamp_Block();
 
 // address x 100 / last, rounded to the nearest whole number, ties to even. last is at least 1.

@@ -5,9 +5,9 @@
 
 namespace wrenbit {
 
-// Moves the current cell out of the ASCII column. A cell without a byte in the image is refused before the
-// port is touched: false.
-bool Byte_Cell_Ready();
+// Moves the current cell out of the ASCII column, then refuses one without a byte in the image. True when it
+// did.
+bool Byte_Refused();
 
 // The byte goes into the image and the current cell, the edit panel follows, and panel 1 says the end.
 void Finish_Byte_Read(std::uint8_t byte);

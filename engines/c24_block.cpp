@@ -4,10 +4,10 @@
 #include "block_transfer.h"
 #include "c24_bus.h"
 #include "c24_control.h"
+#include "failure.h"
 #include "handshake.h"
 #include "link.h"
 #include "platform.h"
-#include "refusal.h"
 #include "state.h"
 #include "verdict.h"
 
@@ -21,34 +21,28 @@ bool Begin() {
   return !LinkError;
 }
 
-void Send_Byte(std::uint8_t byte) { Has_Accelerators() ? Link_SendByte24(byte) : C24_Byte_By_Bits(byte); }
+void Send_Byte(std::uint8_t byte) { Has_Accelerators() ? Link_SendByte24(byte) : C24_Byte_Out_By_Bits(byte); }
 
 void Send_Checked(std::uint8_t byte) {
   Send_Byte(byte);
   ACK_Check();
 }
 
-std::uint8_t Receive_Byte() {
-  if (Has_Accelerators()) return Link_ReadByte24();
-  int byte = 0;
-  for (int bit = 7; bit >= 0; --bit)
-    if (C24_DATA() == 1) byte |= 1 << bit;
-  return static_cast<std::uint8_t>(byte);
-}
+std::uint8_t Receive_Byte() { return Has_Accelerators() ? Link_ReadByte24() : C24_Byte_In_By_Bits(); }
 
 // A dummy write sets the chip's address counter to 0. In the one-byte form the control byte of the read
 // carries the high bits of the block's last address: the counter decides where the reading starts, not these
 // bits.
 void Start_Read(std::int32_t last) {
-  Start_Write(0, Send_Checked);
+  C24_Start_Write(0, Send_Checked);
   C24_StartBit();
-  C24_Byte_By_Bits(Control_Byte(One_Address_Byte() ? last : 0, Direction::Read));
+  C24_Byte_Out_By_Bits(C24_Control_Byte(C24_One_Address_Byte() ? last : 0, Direction::Read));
   ACK_Check();
 }
 
 // One page from `address` on, or what is left of the block. Gives the address behind it.
 std::int32_t Write_Page(std::int32_t address, std::int32_t last, Block_Progress& progress) {
-  Start_Write(address, Send_Checked);
+  C24_Start_Write(address, Send_Checked);
   for (std::int32_t sent = 0; sent < PageSize && address <= last; ++sent) {
     progress.At(address);
     Send_Checked(ImageBuffer[static_cast<std::size_t>(address)]);
@@ -77,13 +71,13 @@ void C24_AllRead() {
   }
   C24_StopBit();
   C24_Power_off();
-  if (Transfer_Failed()) return;
+  if (!Judge_Transfer()) return;
   Tell_Duration("読み出し終了。");
 }
 
 void C24_AllWrite() {
   if (C24_Refused()) return;
-  if (PageSize < 1) return Refuse_Transfer("デバイスのページサイズが正しくありません。");
+  if (PageSize < 1) return Fail("デバイスのページサイズが正しくありません。");
   if (!Begin()) return;
   const std::int32_t last = Clamp_Block();
   Block_Progress progress(last);
@@ -94,7 +88,7 @@ void C24_AllWrite() {
     address = Write_Page(address, last, progress);
   } while (address <= last && !LinkError);
   C24_Power_off();
-  if (Transfer_Failed()) return;
+  if (!Judge_Transfer()) return;
   Tell_Duration("書き込み終了。");
 }
 

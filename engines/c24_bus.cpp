@@ -1,6 +1,7 @@
 #include "c24_bus.h"
 
 #include "accelerators.h"
+#include "failure.h"
 #include "frm_main.h"
 #include "link.h"
 #include "power_sequence.h"
@@ -20,21 +21,21 @@ void Write_A(std::uint8_t value) { Link_WritePortA(PortMirror.OutA = value); }
 void Dir_A(std::uint8_t value) { Link_SetDirA(PortMirror.DirA = value); }
 void Read_A() { PortMirror.InA = Link_ReadPortA(); }
 
-constexpr Port_Values kWatched{.A = kLines, .B = 0x5C, .C = 0x88};
-constexpr Power_Sequence kOn{.Out = {kLines, 0x40, 0x80},
+// Of ports B and C what is held low is watched too.
+constexpr Port_Values kWatched{.A = kLines, .B = kSupply | 0x1C, .C = kHeldHigh | 0x08};
+constexpr Power_Sequence kOn{.Out = {kLines, kSupply, kHeldHigh},
                              .Dir = {0xF8, 0xA3, 0x77},
                              .Watched = kWatched,
-                             .Expected = {kLines, 0x40, 0x80}};
+                             .Expected = {kLines, kSupply, kHeldHigh}};
 constexpr Power_Sequence kOff{
-    .Out = {0, 0, 0x80}, .Dir = {0xFF, 0xFF, 0x7F}, .Watched = kWatched, .Expected = {0, 0, 0x80}};
+    .Out = {0, 0, kHeldHigh}, .Dir = {0xFF, 0xFF, 0x7F}, .Watched = kWatched, .Expected = {0, 0, kHeldHigh}};
 
 // Drives the lines and looks whether they followed.
 bool Step(std::uint8_t levels, const char* error) {
   Write_A(levels);
   Read_A();
   if ((PortMirror.InA & kLines) == levels && !LinkError) return true;
-  Message(error);
-  LinkError = 1;
+  Fail(error);
   return false;
 }
 
@@ -87,10 +88,7 @@ bool C24_ACK() {
   Clock_In_Begin();
   if (LinkError) Message("24Cxx ACK PortA error2");
   const bool pulled_down = (PortMirror.InA & kSdaHigh) == 0;
-  if (!pulled_down) {
-    Message("24Cxx ACK error");
-    LinkError = 1;
-  }
+  if (!pulled_down) Fail("24Cxx ACK error");
   Clock_In_End();
   return pulled_down;
 }

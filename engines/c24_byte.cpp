@@ -13,20 +13,14 @@ namespace {
 
 // Refusals and handshake. False: nothing has touched the bus.
 bool Begin() {
-  if (C24_Refused() || !Byte_Cell_Ready()) return false;
+  if (C24_Refused() || Byte_Refused()) return false;
   Read_Version();
   return !LinkError;
 }
 
 void Send_Checked(std::uint8_t byte) {
-  C24_Byte_By_Bits(byte);
+  C24_Byte_Out_By_Bits(byte);
   ACK_Check();
-}
-
-std::uint8_t Receive_Byte() {
-  int byte = 0;
-  for (int bit = 7; bit >= 0; --bit) byte |= C24_DATA() << bit;
-  return static_cast<std::uint8_t>(byte);
 }
 
 }  // namespace
@@ -35,25 +29,25 @@ void C24_ByteRead() {
   if (!Begin()) return;
   const std::int32_t address = Current_Address();
   C24_Power_on();
-  Start_Write(address, Send_Checked);
+  C24_Start_Write(address, Send_Checked);
   C24_StartBit();
-  Send_Checked(Control_Byte(address, Direction::Read));
-  const std::uint8_t byte = Receive_Byte();
+  Send_Checked(C24_Control_Byte(address, Direction::Read));
+  const std::uint8_t byte = C24_Byte_In_By_Bits();
   C24_Bit1();  // No acknowledge for the last byte.
   C24_StopBit();
   C24_Power_off();
-  if (!Transfer_Failed()) Finish_Byte_Read(byte);
+  if (Judge_Transfer()) Finish_Byte_Read(byte);
 }
 
 void C24_ByteWrite() {
   if (!Begin()) return;
   const std::int32_t address = Current_Address();
   C24_Power_on();
-  Start_Write(address, Send_Checked);
+  C24_Start_Write(address, Send_Checked);
   Send_Checked(ImageBuffer[static_cast<std::size_t>(address)]);
   C24_StopBit();
   C24_Power_off();
-  if (!Transfer_Failed()) Tell_Byte_Done();
+  if (Judge_Transfer()) Tell_Byte_Done();
 }
 
 }  // namespace wrenbit

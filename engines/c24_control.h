@@ -12,16 +12,18 @@ namespace wrenbit {
 
 enum class Direction : std::uint8_t { Write = 0, Read = 1 };
 
-bool One_Address_Byte();
+bool C24_One_Address_Byte();
 
-std::uint8_t Control_Byte(std::int32_t address, Direction direction);
+// For an address within the device.
+std::uint8_t C24_Control_Byte(std::int32_t address, Direction direction);
 
-// Eight bits, highest first, bit by bit at every firmware version.
-void C24_Byte_By_Bits(std::uint8_t byte);
+// Eight bits, highest first, bit by bit at every firmware version. The acknowledge is not part of either.
+void C24_Byte_Out_By_Bits(std::uint8_t byte);
+std::uint8_t C24_Byte_In_By_Bits();
 
 // Start, control byte and address bytes of a write, each byte sent by `send`, which also looks at its
 // acknowledge.
-void Start_Write(std::int32_t address, void (*send)(std::uint8_t byte));
+void C24_Start_Write(std::int32_t address, void (*send)(std::uint8_t byte));
 
 // C24_ACK, with its text in panel 1 when the chip did not acknowledge. Does not stop the transfer.
 void ACK_Check();

@@ -19,7 +19,7 @@ void Send_Field(int count, std::int32_t field) {
                   static_cast<std::uint8_t>(field & 0xFF));
 }
 
-std::uint8_t Receive_Byte() { return Has_Accelerators() ? Link_ReadByte93() : C93_Byte_By_Bits(); }
+std::uint8_t Receive_Byte() { return Has_Accelerators() ? Link_ReadByte93() : C93_Byte_In_By_Bits(); }
 
 }  // namespace
 
@@ -33,7 +33,7 @@ void C93_AllRead() {
 
   C93_Power_on();
   for (std::int32_t address = 0; address <= last; ++address) {
-    Start_Instruction(Opcode::Read, address, Send_Field);
+    C93_Start_Instruction(Opcode::Read, address, Send_Field);
     progress.At(address);
     ImageBuffer[static_cast<std::size_t>(address)] = Receive_Byte();
     C93_CS_Low();
@@ -41,7 +41,7 @@ void C93_AllRead() {
   }
   C93_Power_off();
   Await_Stray_Answer();
-  if (Transfer_Failed()) return;
+  if (!Judge_Transfer()) return;
   Tell_Duration("読み出し終了。");
 }
 
@@ -52,11 +52,11 @@ void C93_AllWrite() {
   if (LinkError) return;
 
   C93_Power_on();
-  Enable_Write();
+  C93_Enable_Write();
   const std::int32_t last = Clamp_Block();
   Block_Progress progress(last);
   for (std::int32_t address = 0; address <= last; ++address) {
-    Start_Instruction(Opcode::Write, address, Send_Field);
+    C93_Start_Instruction(Opcode::Write, address, Send_Field);
     Send_Field(8, ImageBuffer[static_cast<std::size_t>(address)]);
     progress.At(address);
     C93_CS_Low();

@@ -12,11 +12,9 @@ namespace {
 constexpr std::uint8_t kDo = 0x04;
 constexpr std::uint8_t kDi = 0x08;
 constexpr std::uint8_t kSk = 0x10;
-constexpr std::uint8_t kSupply = 0x40;
 constexpr std::uint8_t kDriven = kSupply | kSk | kDi;
 // Port C.
 constexpr std::uint8_t kCs = 0x08;
-constexpr std::uint8_t kHeldHigh = 0x80;
 
 constexpr Power_Sequence kOn{.Out = {0, kSupply, kHeldHigh},
                              .Dir = {0xF9, 0xA7, 0x77},

@@ -12,28 +12,28 @@
 namespace wrenbit {
 
 void C93_ByteRead() {
-  if (C93_Refused() || !Byte_Cell_Ready()) return;
+  if (C93_Refused() || Byte_Refused()) return;
   const std::int32_t address = Current_Address();
   Read_Version();
   if (LinkError) return;
   C93_Power_on();
-  Start_Instruction(Opcode::Read, address, C93_Field_By_Bits);
-  const std::uint8_t byte = C93_Byte_By_Bits();
+  C93_Start_Instruction(Opcode::Read, address, C93_Field_By_Bits);
+  const std::uint8_t byte = C93_Byte_In_By_Bits();
   C93_CS_Low();
   C93_Power_off();
   Await_Stray_Answer();
-  if (!Transfer_Failed()) Finish_Byte_Read(byte);
+  if (Judge_Transfer()) Finish_Byte_Read(byte);
 }
 
 void C93_ByteWrite() {
-  if (C93_Refused() || !Byte_Cell_Ready()) return;
+  if (C93_Refused() || Byte_Refused()) return;
   const std::int32_t address = Current_Address();
   const std::uint8_t byte = ImageBuffer[static_cast<std::size_t>(address)];
   Read_Version();
   if (LinkError) return;
   C93_Power_on();
-  Enable_Write();
-  Start_Instruction(Opcode::Write, address, C93_Field_By_Bits);
+  C93_Enable_Write();
+  C93_Start_Instruction(Opcode::Write, address, C93_Field_By_Bits);
   C93_Field_By_Bits(8, byte);
   C93_CS_Low();
   C93_Power_off();

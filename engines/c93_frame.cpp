@@ -1,7 +1,8 @@
 #include "c93_frame.h"
 
 #include "c93_bus.h"
-#include "refusal.h"
+#include "failure.h"
+#include "image_buffer.h"
 #include "state.h"
 
 namespace wrenbit {
@@ -19,30 +20,30 @@ void C93_Field_By_Bits(int count, std::int32_t field) {
   for (int bit = count - 1; bit >= 0; --bit) field >> bit & 1 ? C93_Bit1() : C93_Bit0();
 }
 
-std::uint8_t C93_Byte_By_Bits() {
+std::uint8_t C93_Byte_In_By_Bits() {
   int byte = 0;
   for (int bit = 7; bit >= 0; --bit) byte |= C93_DATA() << bit;
   return static_cast<std::uint8_t>(byte);
 }
 
-void Start_Instruction(Opcode opcode, std::int32_t address, void (*send)(int count, std::int32_t field)) {
+void C93_Start_Instruction(Opcode opcode, std::int32_t address, void (*send)(int count, std::int32_t field)) {
   C93_CS_High();
   send(kOpcodeBits, static_cast<std::int32_t>(opcode));
   send(AddressBits, address);
 }
 
-void Enable_Write() {
-  Start_Instruction(Opcode::Enable, 3 << (AddressBits - 2), C93_Field_By_Bits);
+void C93_Enable_Write() {
+  C93_Start_Instruction(Opcode::Enable, 3 << (AddressBits - 2), C93_Field_By_Bits);
   C93_CS_Low();
 }
 
 bool C93_Refused() {
   if (AddressBits < kFewestAddressBits || AddressBits > kMostAddressBits) {
-    Refuse_Transfer("デバイスのアドレスビット数が正しくありません。");
+    Fail("デバイスのアドレスビット数が正しくありません。");
     return true;
   }
   if (MemSize > AddressBits) {
-    Refuse_Transfer(kWrongSize);
+    Fail(kWrongSize);
     return true;
   }
   return false;

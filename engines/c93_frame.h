@@ -20,13 +20,13 @@ enum class Opcode : std::uint8_t { Read = 0b110, Write = 0b101, Enable = 0b100 }
 void C93_Field_By_Bits(int count, std::int32_t field);
 
 // Eight bits from the chip, bit by bit at every firmware version.
-std::uint8_t C93_Byte_By_Bits();
+std::uint8_t C93_Byte_In_By_Bits();
 
 // From CS high to the last address bit, each field sent by `send`.
-void Start_Instruction(Opcode opcode, std::int32_t address, void (*send)(int count, std::int32_t field));
+void C93_Start_Instruction(Opcode opcode, std::int32_t address, void (*send)(int count, std::int32_t field));
 
 // EWEN, bit by bit, from CS high to CS low: the chip takes writes until its supply goes.
-void Enable_Write();
+void C93_Enable_Write();
 
 // Refuses, with a text in panel 1 and LinkError, a device whose address does not fit the instruction, or
 // whose instruction does not reach all of its bytes. True when it did.

@@ -6,6 +6,10 @@
 
 namespace wrenbit {
 
+// The pins that have the same role for both families.
+inline constexpr std::uint8_t kSupply = 0x40;    // Port B.
+inline constexpr std::uint8_t kHeldHigh = 0x80;  // Port C.
+
 struct Port_Values {
   std::uint8_t A, B, C;
 };

@@ -1,6 +1,6 @@
 #include "verdict.h"
 
-#include "frm_main.h"
+#include "failure.h"
 #include "mscomm.h"
 #include "reply_wait.h"
 #include "state.h"
@@ -13,12 +13,11 @@ void Await_Stray_Answer() {
   Await_Rest(1);
 }
 
-bool Transfer_Failed() {
-  if (LinkError) return true;
-  if (MSComm1.Unasked() + MSComm1.InBufferCount() == 0) return false;
-  frmMain.sbStatusBar.Set_Panel(1, "プログラマの応答がずれています。");
-  LinkError = 1;
-  return true;
+bool Judge_Transfer() {
+  if (LinkError) return false;
+  if (MSComm1.Unasked() + MSComm1.InBufferCount() == 0) return true;
+  Fail("プログラマの応答がずれています。");
+  return false;
 }
 
 }  // namespace wrenbit

@@ -8,9 +8,9 @@ namespace wrenbit {
 // nothing with LinkError set.
 void Await_Stray_Answer();
 
-// LinkError. Sets it first, and says so in panel 1, when the board has said more than it was asked for:
-// answers carry no tag, so any behind the surplus one may have passed for the next command's. For transfers
-// that go by the answers; a three-wire write does not.
-bool Transfer_Failed();
+// True when the transfer went well. Fails it when the board has said more than it was asked for: answers
+// carry no tag, so any behind the surplus one may have passed for the next command's. For transfers that go
+// by the answers; a three-wire write does not.
+bool Judge_Transfer();
 
 }  // namespace wrenbit

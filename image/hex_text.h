@@ -6,6 +6,8 @@
 #include <string>
 #include <string_view>
 
+#include "utf8_text.h"
+
 namespace wrenbit {
 
 // 0 to 15 for one character "0" to "9" or "A" to "F"; 0 for anything else, lower case and the empty text
@@ -25,10 +27,8 @@ inline constexpr auto kHexDigits = [] {
 // 0 to 65535 from the last four characters of a UTF-8 text, in either case. The empty text is 0.
 constexpr std::int32_t Hex_ToLong(std::string_view text) {
   std::uint32_t value = 0;
-  for (const char c : text) {
-    const bool continues_character = (c & 0xC0) == 0x80;
-    if (!continues_character) value = value << 4 | kHexDigits[static_cast<unsigned char>(c)];
-  }
+  for (const char c : text)
+    if (Begins_Character(c)) value = value << 4 | kHexDigits[static_cast<unsigned char>(c)];
   return static_cast<std::int32_t>(value & 0xFFFF);
 }
 

@@ -2,10 +2,17 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdint>
 #include <limits>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
 
+#include "accelerators.h"
 #include "code_page_932.h"
 #include "com_ports.h"
+#include "failure.h"
 #include "frm_com.h"
 #include "frm_main.h"
 #include "mscomm.h"
@@ -39,7 +46,7 @@ constexpr const char* kLimits4096 =
 const char* Reason(Port_Fault fault) {
   switch (fault) {
     case Port_Fault::None:
-      return "";
+      break;
     case Port_Fault::No_Such_Port:
       return "ポートがありません。";
     case Port_Fault::No_Permission:
@@ -66,22 +73,22 @@ Port_Choice Chosen_Port() {
   return {*index + 1, std::to_string(*index + 1)};
 }
 
-void Tell_Not_Connected(const std::string& port) {
-  frmMain.sbStatusBar.Set_Panel(2, "COM" + port + " : ライター未接続");
+// No board that is known: `why` goes behind the words that say so.
+void Fail_Without_Board(const Port_Choice& port, const std::string& why) {
+  frmMain.sbStatusBar.Set_Panel(2, "COM" + port.Text + " : ライター未接続");
+  Fail("プログラマ接続確認エラー。" + why);
 }
 
-void Tell_No_Answer(const std::string& port, Port_Fault fault) {
-  Tell_Not_Connected(port);
-  frmMain.sbStatusBar.Set_Panel(1, "プログラマ接続確認エラー。【" + port + "】" + Reason(fault));
-  LinkError = 1;
+void Fail_Unanswered(const Port_Choice& port, Port_Fault fault) {
+  Fail_Without_Board(port, "【" + port.Text + "】" + Reason(fault));
 }
 
 Port_Fault Open_Chosen(const Port_Choice& port) {
   MSComm1.Close();
   if (port.Number == 0) return Port_Fault::No_Such_Port;
   MSComm1.CommPort = port.Number;
-  MSComm1.RTSEnable = Get_Number_Setting(key::kRts, 1) != 0;
-  MSComm1.DTREnable = Get_Number_Setting(key::kDtr, 0) != 0;
+  MSComm1.RTSEnable = Stored_RTS();
+  MSComm1.DTREnable = Stored_DTR();
   return MSComm1.Open();
 }
 
@@ -95,7 +102,7 @@ bool Query() {
 
 const char* Limits_Text() {
   if (ProgrammerVersion == 0) return "";
-  return ProgrammerVersion < 5.0F ? kLimits256 : kLimits4096;
+  return Has_Accelerators() ? kLimits4096 : kLimits256;
 }
 
 // Board and program share the code page. What cannot be shown is the dot.
@@ -109,6 +116,32 @@ std::string Shown(std::string_view bytes) {
   return shown;
 }
 
+// Asks the board what it is, twice; the second answer counts. Nothing when it is too short or does not come
+// within its second. All that the board has said is read or dropped afterwards.
+std::optional<std::string> Ask_Identity() {
+  // The first query wakes the board and clears its parser; what it says to it is dropped.
+  Query();
+  for (int slept = 0; slept < kSettle && !MSComm1.Lost(); slept += kSettleStep) Sleep(kSettleStep);
+  DoEvents();
+  const std::size_t first_answer = MSComm1.InBufferCount();
+  const double asked = Timer();
+  if (Query()) Await_Bytes(kReplyLength);
+  if (MSComm1.InBufferCount() < kReplyLength) return std::nullopt;
+
+  const double answered = Timer();
+  const std::vector<std::uint8_t> reply = MSComm1.Input();
+  // What of the answer is still to come must not pass for the reply to the next command.
+  if (first_answer >= kReplyLength) {
+    MSComm1.Learn_Pace(1 + kReplyLength, answered - asked);
+    Await_Rest(first_answer - std::min(first_answer, reply.size()));
+  } else {  // A first answer that comes late could pass for a fast second one.
+    Await_Rest(kAnyNumber);
+  }
+  MSComm1.Clear_InBuffer();
+  MSComm1.Forget_Unasked();
+  return std::string(reply.begin(), reply.begin() + kTextLength);
+}
+
 }  // namespace
 
 void Read_Version() {
@@ -118,41 +151,15 @@ void Read_Version() {
   frmCom.Ensure_Loaded();
   const Port_Choice port = Chosen_Port();
   if (const Port_Fault fault = Open_Chosen(port); fault != Port_Fault::None)
-    return Tell_No_Answer(port.Text, fault);
+    return Fail_Unanswered(port, fault);
+  const std::optional<std::string> identity = Ask_Identity();
+  if (!identity) return Fail_Unanswered(port, MSComm1.Lost() ? Port_Fault::Gone : Port_Fault::None);
+  if (!identity->starts_with(kWord)) return Fail_Without_Board(port, "");  // An unknown board is not driven.
 
-  // The first query wakes the board and clears its parser; what it says to it is dropped.
-  Query();
-  for (int slept = 0; slept < kSettle && !MSComm1.Lost(); slept += kSettleStep) Sleep(kSettleStep);
-  DoEvents();
-  const std::size_t first = MSComm1.InBufferCount();
-  const double asked = Timer();
-  if (Query()) Await_Bytes(kReplyLength);
-  if (MSComm1.InBufferCount() < kReplyLength)
-    return Tell_No_Answer(port.Text, MSComm1.Lost() ? Port_Fault::Gone : Port_Fault::None);
-
-  const double answered = Timer();
-  const std::vector<std::uint8_t> reply = MSComm1.Input();
-  // What of the answer is still to come must not pass for the reply to the next command.
-  if (first >= kReplyLength) {
-    MSComm1.Learn_Pace(1 + kReplyLength, answered - asked);
-    Await_Rest(first - std::min(first, reply.size()));
-  } else {  // A first answer that comes late could pass for a fast second one.
-    Await_Rest(kAnyNumber);
-  }
-  MSComm1.Clear_InBuffer();
-  MSComm1.Forget_Unasked();
-  const std::string text(reply.begin(), reply.begin() + kTextLength);
-  if (!text.starts_with(kWord)) {
-    // An unknown board is not driven.
-    Tell_Not_Connected(port.Text);
-    frmMain.sbStatusBar.Set_Panel(1, "プログラマ接続確認エラー。");
-    LinkError = 1;
-    return;
-  }
-  ProgrammerVersionText = Shown(text);
+  ProgrammerVersionText = Shown(*identity);
   frmMain.sbStatusBar.Set_Panel(2, "COM" + port.Text + " : " + ProgrammerVersionText);
   // No number counts as 0: port commands work with every board.
-  ProgrammerVersion = static_cast<float>(Decimal_Number(text.substr(kVersionAt)).value_or(0));
+  ProgrammerVersion = static_cast<float>(Decimal_Number(identity->substr(kVersionAt)).value_or(0));
   frmMain.Lbl_memo.Set_Caption(Limits_Text());
 }
 

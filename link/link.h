@@ -13,9 +13,9 @@
 //   Link_SetDirA..C      "mta".."mtc" value        none
 //   Link_ReadPortA..C    "mra".."mrc"              exactly one byte: the pins
 //
-// The digits exist from firmware 5.0 on. The port must be open. Each operation first drops what lies in the
-// receive buffer. A reply is awaited for one second; without one LinkError becomes 1 and the result is 0. A
-// command that the system would not take sets it too, and what follows is held back until the next power
+// The digits exist from firmware 5.0 on. On a closed port each fails. Each operation first drops what lies in
+// the receive buffer. A reply is awaited for one second; without one LinkError becomes 1 and the result is 0.
+// A command that the system would not take sets it too, and what follows is held back until the next power
 // sequence. No operation clears LinkError or refuses to run because of it, and none retries. Where the wire
 // is far behind, an operation yields until it has caught up, before all else.
 #pragma once

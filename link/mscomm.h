@@ -60,7 +60,7 @@ class MSComm {
   bool Lost() { return open && backend->Lost(); }
   std::optional<Serial_Device> Device(int number) const;
 
-  // On a closed port there is nothing to read, and what is sent is dropped.
+  // On a closed port there is nothing to read, and nothing goes out.
   std::size_t InBufferCount() { return open ? backend->Waiting() : 0; }
   void Clear_InBuffer();
   // Bytes that came without being asked for, since Forget_Unasked: those that Clear_InBuffer threw away, and

@@ -1,13 +1,10 @@
 #include "number_text.h"
 
-#include <algorithm>
 #include <charconv>
+#include <system_error>
 
 namespace wrenbit {
 namespace {
-
-// In UTF-8, all bytes but those that continue one.
-bool Begins_Character(char byte) { return (byte & 0xC0) != 0x80; }
 
 // from_chars knows no plus sign.
 std::string_view Without_Plus(std::string_view text) {
@@ -30,16 +27,6 @@ std::string_view Trim(std::string_view text) {
   const std::size_t first = text.find_first_not_of(' ');
   if (first == text.npos) return {};
   return text.substr(first, text.find_last_not_of(' ') - first + 1);
-}
-
-std::size_t Characters(std::string_view text) {
-  return static_cast<std::size_t>(std::count_if(text.begin(), text.end(), Begins_Character));
-}
-
-std::string_view First_Characters(std::string_view text, std::size_t count) {
-  for (std::size_t at = 0; at < text.size(); ++at)
-    if (Begins_Character(text[at]) && count-- == 0) return text.substr(0, at);
-  return text;
 }
 
 std::optional<std::int32_t> Whole_Number(std::string_view text) {

@@ -1,5 +1,5 @@
-// Measuring and reading short texts: blanks, characters, and numbers that a person may have typed. Nothing
-// but the number may stand in the text, blanks around it excepted; a text that holds none gives nothing.
+// Numbers that a person may have typed. Nothing but the number may stand in the text, blanks around it
+// excepted; a text that holds none gives nothing.
 #pragma once
 
 #include <cstdint>
@@ -10,12 +10,6 @@ namespace wrenbit {
 
 // Text without the blanks at both ends.
 std::string_view Trim(std::string_view text);
-
-// Characters in a UTF-8 text.
-std::size_t Characters(std::string_view text);
-
-// The text's first so many characters, or all that it has.
-std::string_view First_Characters(std::string_view text, std::size_t count);
 
 // An optional sign and digits, within 32 bits signed.
 std::optional<std::int32_t> Whole_Number(std::string_view text);

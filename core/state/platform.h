@@ -1,32 +1,9 @@
-// The small seams to the platform: who the program is, the yield, the clock, the pause, the message box and
-// the help.
+// The small seam to the platform: yield and repaint, clock and pause, message box, browser and help, the end.
 #pragma once
 
 #include <string>
 
 namespace wrenbit {
-
-// Facts of the program; the platform fills in what it knows before Main runs.
-struct App_Facts {
-  std::string Title = "wrenbit";
-  int Major = WRENBIT_VERSION_MAJOR;  // As the build has them.
-  int Minor = WRENBIT_VERSION_MINOR;
-  int Revision = WRENBIT_VERSION_PATCH;
-  std::string FileDescription =
-      "TOLVEX Programmerを使用し、シリアルＥＥＰＲＯＭにプログラミングするためのソフトです。";
-  std::string Comments;
-  std::string Path;           // Folder of the program's file, no closing separator except at the root.
-  std::string HelpFile;       // Whole path of the help file; empty when the program has none.
-  bool PrevInstance = false;  // Another instance of this user's runs already.
-};
-inline App_Facts App;
-
-inline constexpr const char* kSupportPage = "https://wrenbit.example/support";
-
-// "1.2.10"
-std::string App_Version();
-// "WRENBIT"
-std::string App_Title_Upper();
 
 enum class Message_Icon { None, Critical, Question, Information, Warning };
 enum class Message_Buttons { Ok, OkCancel };
@@ -36,7 +13,8 @@ class Platform {
   virtual ~Platform() = default;
   // Delivers pending events, then comes back.
   virtual void DoEvents() = 0;
-  // Lets what has changed so far show. Keys and clicks wait meanwhile; what assistive technology picks does not.
+  // Lets what has changed so far show. Keys and clicks wait meanwhile; what assistive technology picks does
+  // not.
   virtual void Repaint() = 0;
   // Delivers pending events; when there are none, rests until one comes, at most for so many seconds.
   // A byte on the serial port is an event.
@@ -67,8 +45,5 @@ inline bool MsgBox(const std::string& text, Message_Icon icon, Message_Buttons b
                    const std::string& title) {
   return ThePlatform->MsgBox(text, icon, buttons, title);
 }
-
-// True when the path is a regular file that can be opened for reading.
-bool File_Exists(const std::string& path);
 
 }  // namespace wrenbit

@@ -16,4 +16,7 @@ long Get_Number_Setting(const char* name, long otherwise) {
   return Whole_Number(GetSetting(name, "")).value_or(otherwise);
 }
 
+bool Stored_RTS() { return Get_Number_Setting(key::kRts, 1) != 0; }
+bool Stored_DTR() { return Get_Number_Setting(key::kDtr, 0) != 0; }
+
 }  // namespace wrenbit

@@ -40,4 +40,8 @@ void SaveSetting(const char* key, const std::string& value);
 // A stored number; the default also stands for a text that is no whole number.
 long Get_Number_Setting(const char* key, long otherwise);
 
+// Whether the control lines are on, by their keys and defaults.
+bool Stored_RTS();
+bool Stored_DTR();
+
 }  // namespace wrenbit

@@ -21,7 +21,7 @@ struct Port_Mirror {
 
 // --- The image of the chip on the PC.
 // 2^MemSize bytes, index = chip address; empty for a device without a usable size. Made anew by Image_Create;
-// bytes change through the engines and the Intel HEX reader.
+// bytes change through the engines, the Intel HEX reader and the edit panel.
 inline std::vector<std::uint8_t> ImageBuffer;
 inline std::int32_t ImageChecksum;  // Sum of the image; good right after CheckSum_Text, its only writer.
 
@@ -37,7 +37,7 @@ inline std::int32_t AddressMode;   // 24Cxx: 1 = one address byte, else two.
 inline std::int32_t AddressBits;   // 93Cxx: address bits on the bus.
 inline std::string DeviceStatusText;
 
-// A block transfer moves 2^AccessSize bytes. Written by CmbSize_Click and at the load of frmMain.
+// A block transfer moves 2^AccessSize bytes. Written by CmbSize_Click.
 inline std::int32_t AccessSize;
 
 // --- The link.
@@ -60,8 +60,5 @@ inline std::int16_t
 inline std::string HexFilePath;  // Last path from the file dialogs.
 inline std::string MainTitle;    // Title of the main window without a file. Written by Main.
 inline std::string AppFolder;    // Folder of the program, with a closing separator. Written by Main.
-
-// Everything above and the four windows as they are when the process starts. For tests.
-void Reset_State();
 
 }  // namespace wrenbit

@@ -7,6 +7,9 @@
 
 namespace wrenbit {
 
+// True when the path is a regular file that can be opened for reading.
+bool File_Exists(const std::string& path);
+
 // The bytes of a regular file of at most 256 MiB, nothing for any other and for one that can't be opened.
 // Where reading fails in the midst, what came before.
 std::optional<std::string> Read_Whole_File(const std::string& path);

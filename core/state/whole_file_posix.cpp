@@ -5,7 +5,6 @@
 #include <cerrno>
 #include <cstdio>
 #include <filesystem>
-#include <fstream>
 #include <random>
 #include <system_error>
 
@@ -15,7 +14,6 @@ namespace wrenbit {
 namespace fs = std::filesystem;
 namespace {
 
-constexpr std::uintmax_t kLargestFile = 256u << 20;
 constexpr int kMostLinks = 40;  // As many as Linux follows.
 
 std::string Reason(int error) {
@@ -92,20 +90,6 @@ class Temporary {
 };
 
 }  // namespace
-
-std::optional<std::string> Read_Whole_File(const std::string& path) {
-  // Looked at before it is opened: opening a pipe would wait for a writer.
-  std::error_code error;
-  if (!fs::is_regular_file(path, error)) return std::nullopt;
-  const std::uintmax_t size = fs::file_size(path, error);
-  if (error || size > kLargestFile) return std::nullopt;
-  std::ifstream file(path, std::ios::binary);
-  if (!file) return std::nullopt;
-  std::string text(static_cast<std::size_t>(size), '\0');
-  file.read(text.data(), static_cast<std::streamsize>(text.size()));
-  text.resize(static_cast<std::size_t>(file.gcount()));
-  return text;
-}
 
 std::optional<std::string> Write_Whole_File(const std::string& path, std::string_view text) {
   const fs::path goal = Behind_Links(path);

@@ -6,7 +6,7 @@ namespace wrenbit {
 
 Control::Control(Control& holder, Place place, Font font)
     : At(place), Lettering(font), container(&holder), form(&holder.Window()) {
-  form->Add(*this);
+  form->controls.push_back(this);
 }
 
 Control::Control(Form& self) : form(&self) {}
@@ -30,17 +30,6 @@ bool Control::Set_Focus() {
 void Control::Reset() {
   enabled = true;
   Tell();
-}
-
-Captioned::Captioned(Control& holder, Place place, std::string first_caption, Font font)
-    : Control(holder, place, font), first(std::move(first_caption)), caption(first) {}
-
-Captioned::Captioned(Form& self, std::string first_caption)
-    : Control(self), first(std::move(first_caption)), caption(first) {}
-
-void Captioned::Reset() {
-  caption = first;
-  Control::Reset();
 }
 
 }  // namespace wrenbit

@@ -2,13 +2,9 @@
 // a view follows it. Controls are plain objects; without a view they behave the same and nothing shows.
 #pragma once
 
-#include <cstdint>
 #include <functional>
-#include <optional>
 #include <string>
 #include <utility>
-
-#include "picture.h"
 
 namespace wrenbit {
 
@@ -33,6 +29,8 @@ struct Font {
   double Points = 9;
 };
 
+enum class Alignment { Left, Centre, Right };
+
 class Control {
  public:
   // The container is a frame or a form and outlives the control.
@@ -53,7 +51,8 @@ class Control {
   // reachable.
   bool Set_Focus();
 
-  // Back to the state in which the control was made: what unloading a form does to what lies on it.
+  // Enabled, and with the texts and values with which the control was made: what unloading a form does to
+  // what lies on it. Leaves where it lies, whether it shows and what a screen reader calls it.
   virtual void Reset();
 
   Form& Window() const { return *form; }
@@ -95,70 +94,5 @@ template <class... Arguments>
 void Fire(const std::function<void(Arguments...)>& event, Arguments... arguments) {
   if (event) event(arguments...);
 }
-
-// A control with a text that code sets and the user only reads.
-class Captioned : public Control {
- public:
-  Captioned(Control& holder, Place place, std::string first_caption, Font font = {});
-  const std::string& Caption() const { return caption; }
-  void Set_Caption(std::string value) { Store(caption, std::move(value)); }
-  void Reset() override;
-
- protected:
-  Captioned(Form& self, std::string first_caption);
-
- private:
-  std::string first;
-  std::string caption;
-};
-
-enum class Alignment { Left = 1, Centre = 4, Right = 7 };
-
-class Label : public Captioned {
- public:
-  Label(Control& holder, Place place, std::string first_caption, Font font = {},
-        Alignment alignment = Alignment::Left, std::optional<std::uint32_t> colour = {})
-      : Captioned(holder, place, std::move(first_caption), font), Align(alignment), ForeColor(colour) {}
-  const Alignment Align;
-  const std::optional<std::uint32_t> ForeColor;  // 0xRRGGBB; the desktop's own when there is none.
-};
-
-class PictureBox : public Control {
- public:
-  PictureBox(Control& holder, Place place, Picture picture) : Control(holder, place), Image(picture) {}
-  const Picture Image;
-};
-
-// A thin rule across its place.
-class Line : public Control {
- public:
-  Line(Control& holder, Place place, std::uint32_t colour) : Control(holder, place), Colour(colour) {}
-  const std::uint32_t Colour;  // 0xRRGGBB
-};
-
-class Frame : public Captioned {
- public:
-  using Captioned::Captioned;
-  std::function<void()> Click;
-};
-
-class CommandButton : public Captioned {
- public:
-  CommandButton(Control& holder, Place place, std::string first_caption, Font font = {},
-                Picture picture = Picture::None)
-      : Captioned(holder, place, std::move(first_caption), font), Image(picture) {}
-  const Picture Image;   // Above the caption.
-  bool Default = false;  // The enter key presses it, unless another button has the focus.
-  bool Cancel = false;   // The escape key presses it.
-  std::function<void()> Click;
-};
-
-// A menu, an entry of one, or a separator, whose caption is "-". "&" stands before the mnemonic.
-class Menu : public Captioned {
- public:
-  Menu(Control& holder, std::string first_caption) : Captioned(holder, {}, std::move(first_caption)) {}
-  bool Separator() const { return Caption() == "-"; }
-  std::function<void()> Click;
-};
 
 }  // namespace wrenbit

@@ -14,19 +14,12 @@ void Form::Ensure_Loaded() {
   Fire(Form_Load);
 }
 
-void Form::Show() {
-  Ensure_Loaded();
-  if (!loaded || Visible()) return;
-  Set_Visible(true);
-  Fire(View_Show, false);
-}
-
-void Form::Show_Modal() {
+void Form::Show_As(bool modal) {
   Ensure_Loaded();
   // Form_Load may yield, and the window may have been shown and closed meanwhile.
   if (!loaded || Visible()) return;
   Set_Visible(true);
-  Fire(View_Show, true);
+  Fire(View_Show, modal);
 }
 
 void Form::Hide() {

@@ -4,11 +4,11 @@
 #include <string>
 #include <vector>
 
-#include "control.h"
+#include "plain_controls.h"
 
 namespace wrenbit {
 
-enum class Pointer { Default = 0, Hourglass = 11 };
+enum class Pointer { Default, Hourglass };
 
 class Form : public Captioned {
  public:
@@ -18,9 +18,11 @@ class Form : public Captioned {
   // The first use of a window loads it: all that lies on it is put to its first state, and Form_Load runs.
   // Does nothing while it is loaded. Shows nothing.
   void Ensure_Loaded();
-  void Show();
-  // Returns when the window has gone. Without a view it returns at once, the window still up.
-  void Show_Modal();
+  // Both load the window first, and do nothing while it is up. Modal: returns when the window has gone;
+  // without a view at once, the window still up.
+  void Show() { Show_As(false); }
+  void Show_Modal() { Show_As(true); }
+  // Stays loaded.
   void Hide();
   // Runs Form_Unload and hides the window.
   void Unload();
@@ -35,18 +37,17 @@ class Form : public Captioned {
   double Left() const { return left; }
   double Top() const { return top; }
   void Move(double new_left, double new_top);
-  bool Minimised() const { return minimised; }
+  bool Minimised() const { return minimised; }  // Told by the view.
   void Set_Minimised(bool value) { minimised = value; }
 
   Pointer MousePointer() const { return pointer; }
   void Set_MousePointer(Pointer value) { Store(pointer, value); }
 
+  // The control that code gave the keyboard last, none since the load. The user's own moves do not count.
   Control* ActiveControl() const { return active; }
-  void Set_ActiveControl(Control& control);
 
   // All that lies on the form, in the order in which it was made.
   const std::vector<Control*>& Controls() const { return controls; }
-  void Add(Control& control) { controls.push_back(&control); }
 
   const int Client_Width;
   const int Client_Height;
@@ -63,6 +64,10 @@ class Form : public Captioned {
   std::function<void()> View_Move;
 
  private:
+  friend Control;  // Puts itself among the controls, and asks for the keyboard.
+  void Show_As(bool modal);
+  void Set_ActiveControl(Control& control);
+
   std::vector<Control*> controls;
   Control* active = nullptr;
   double left = 0;

@@ -3,9 +3,12 @@
 
 #include <array>
 
+#include "common_dialog.h"
 #include "flex_grid.h"
 #include "form.h"
 #include "lists_and_boxes.h"
+#include "plain_controls.h"
+#include "status_bar.h"
 
 namespace wrenbit {
 

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "utf8_text.h"
+
 namespace wrenbit {
 
 TextBox::TextBox(Control& holder, Place place, int max_length, Font font)
@@ -19,8 +21,7 @@ void TextBox::Edit(std::string value) {
 }
 
 void TextBox::Set_SelLength(int value) {
-  const auto characters = std::count_if(text.begin(), text.end(), [](char c) { return (c & 0xC0) != 0x80; });
-  selected = std::min(value, static_cast<int>(characters));
+  selected = std::min(value, static_cast<int>(Characters(text)));
   Tell();
 }
 
@@ -30,8 +31,8 @@ void TextBox::Reset() {
   Control::Reset();
 }
 
-CheckBox::CheckBox(Control& holder, Place place, std::string first_caption, bool first_value, Font font)
-    : Captioned(holder, place, std::move(first_caption), font), first(first_value), value(first) {}
+CheckBox::CheckBox(Control& holder, Place place, std::string first_caption, bool first_value)
+    : Captioned(holder, place, std::move(first_caption)), first(first_value), value(first) {}
 
 void CheckBox::Set_Value(int new_value) {
   if (Store(value, new_value)) Fire(Click);
@@ -63,18 +64,6 @@ bool ComboBox::Set_ListIndex(int new_index) {
 
 void ComboBox::Reset() {
   Clear();
-  Control::Reset();
-}
-
-StatusBar::StatusBar(Control& holder, Place place, std::array<int, kPanels> panel_widths)
-    : Control(holder, place), Widths(panel_widths) {}
-
-void StatusBar::Set_Panel(int number, std::string text) {
-  Store(texts.at(static_cast<std::size_t>(number - 1)), std::move(text));
-}
-
-void StatusBar::Reset() {
-  texts = {};
   Control::Reset();
 }
 

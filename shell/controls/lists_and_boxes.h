@@ -1,19 +1,20 @@
-// What the user fills in: text boxes, check boxes, drop-down lists; the status bar, and the file dialogs.
+// What the user fills in: text boxes, check boxes, drop-down lists.
 // A write from code fires the control's event inside the write, as the user's own doing does.
 #pragma once
 
-#include <array>
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <vector>
 
 #include "control.h"
+#include "plain_controls.h"
 
 namespace wrenbit {
 
 class TextBox : public Control {
  public:
-  // Holds at most max_length characters.
+  // The user can type at most max_length characters; what code sets is its own affair.
   TextBox(Control& holder, Place place, int max_length, Font font);
 
   // UTF-8. Given the text that it has, the box fires nothing.
@@ -40,7 +41,7 @@ class TextBox : public Control {
 
 class CheckBox : public Captioned {
  public:
-  CheckBox(Control& holder, Place place, std::string first_caption, bool first_value = false, Font font = {});
+  CheckBox(Control& holder, Place place, std::string first_caption, bool first_value = false);
   int Value() const { return value; }
   // 1 or 0. Click fires when the state changes.
   void Set_Value(int new_value);
@@ -77,43 +78,6 @@ class ComboBox : public Control {
  private:
   std::vector<std::string> items;
   int index = -1;
-};
-
-class StatusBar : public Control {
- public:
-  static constexpr int kPanels = 4;
-  // Widths in twips.
-  StatusBar(Control& holder, Place place, std::array<int, kPanels> panel_widths);
-
-  // Panels are counted from 1.
-  const std::string& Panel(int number) const { return texts.at(static_cast<std::size_t>(number - 1)); }
-  void Set_Panel(int number, std::string text);
-  void Reset() override;
-
-  const std::array<int, kPanels> Widths;
-  // What a screen reader calls the panels: what each one tells of.
-  std::array<std::string, kPanels> PanelNames;
-
- private:
-  std::array<std::string, kPanels> texts;
-};
-
-// The file dialogs. Everything is as the last use left it, until it is set again.
-class CommonDialog {
- public:
-  std::string DialogTitle;
-  std::string InitDir;     // Folder to begin in; empty leaves it to the platform.
-  std::string Filter;      // Name, "|", pattern, "|", and again.
-  std::string DefaultExt;  // Goes behind a typed name that has none, when saving.
-  std::string FileName;    // Proposed name before, whole path afterwards.
-  std::string FileTitle;   // Name without the folder.
-
-  // False when the user cancelled; the names are then as they were.
-  bool ShowOpen() { return View_Open && View_Open(); }
-  bool ShowSave() { return View_Save && View_Save(); }
-
-  std::function<bool()> View_Open;
-  std::function<bool()> View_Save;
 };
 
 }  // namespace wrenbit

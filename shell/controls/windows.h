@@ -5,11 +5,3 @@
 #include "frm_com.h"
 #include "frm_main.h"
 #include "frm_splash.h"
-
-namespace wrenbit {
-
-// Puts every window back to the state in which the process began: unloaded, hidden, first texts. No event
-// fires.
-void Reset_Windows();
-
-}  // namespace wrenbit

@@ -22,6 +22,8 @@
 #include "lists_and_boxes.h"
 #include "look.h"
 #include "pictures.h"
+#include "plain_controls.h"
+#include "status_bar.h"
 
 namespace wrenbit {
 namespace {

@@ -3,7 +3,7 @@
 
 #include <QWidget>
 
-#include "lists_and_boxes.h"
+#include "common_dialog.h"
 
 namespace wrenbit {
 

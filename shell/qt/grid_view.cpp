@@ -66,36 +66,36 @@ QRect Grid_View::Cell_Rect(int row, int col) const {
   return QRect(left, line * kRowHeight, right - left, kRowHeight).intersected(viewport()->rect());
 }
 
+void Grid_View::Paint_Cell(QPainter& painter, int row, int col) const {
+  const QPalette::ColorGroup group = isEnabled() ? QPalette::Active : QPalette::Disabled;
+  const auto colour = [&](QPalette::ColorRole role) { return palette().color(group, role); };
+  const QRect cell = Cell_Rect(row, col);
+  const bool fixed = row == 0 || col == 0;
+  const bool current = !fixed && row == grid.Row() && col == grid.Col();
+  painter.fillRect(cell, colour(fixed ? QPalette::Button : current ? QPalette::Highlight : QPalette::Base));
+  painter.setPen(colour(fixed ? QPalette::Mid : QPalette::Midlight));
+  painter.drawLine(cell.bottomLeft(), cell.bottomRight());
+  painter.drawLine(cell.topRight(), cell.bottomRight());
+  painter.setPen(colour(fixed ? QPalette::ButtonText : current ? QPalette::HighlightedText : QPalette::Text));
+  Draw_Fitted(painter, cell.adjusted(kPadding, 0, -kPadding, 0),
+              Qt::AlignVCenter | Side(grid.ColAlignment(col)), Text_Of(grid.Cell(row, col)));
+  if (!current || !hasFocus()) return;
+  painter.setPen(QPen(colour(QPalette::HighlightedText), 1, Qt::DotLine));
+  painter.drawRect(cell.adjusted(0, 0, -2, -2));
+}
+
 void Grid_View::paintEvent(QPaintEvent* event) {
   QPainter painter(viewport());
   painter.setFont(font());
-  const QPalette::ColorGroup group = isEnabled() ? QPalette::Active : QPalette::Disabled;
-  const auto colour = [&](QPalette::ColorRole role) { return palette().color(group, role); };
-  painter.fillRect(event->rect(), colour(QPalette::Base));
-
-  const auto paint_cell = [&](int row, int col) {
-    const QRect cell = Cell_Rect(row, col);
-    if (!event->region().intersects(cell)) return;
-    const bool fixed = row == 0 || col == 0;
-    const bool current = !fixed && row == grid.Row() && col == grid.Col();
-    painter.fillRect(cell, colour(fixed ? QPalette::Button : current ? QPalette::Highlight : QPalette::Base));
-    painter.setPen(colour(fixed ? QPalette::Mid : QPalette::Midlight));
-    painter.drawLine(cell.bottomLeft(), cell.bottomRight());
-    painter.drawLine(cell.topRight(), cell.bottomRight());
-    painter.setPen(colour(fixed     ? QPalette::ButtonText
-                          : current ? QPalette::HighlightedText
-                                    : QPalette::Text));
-    Draw_Fitted(painter, cell.adjusted(kPadding, 0, -kPadding, 0),
-                Qt::AlignVCenter | Side(grid.ColAlignment(col)), Text_Of(grid.Cell(row, col)));
-    if (current && hasFocus()) {
-      painter.setPen(QPen(colour(QPalette::HighlightedText), 1, Qt::DotLine));
-      painter.drawRect(cell.adjusted(0, 0, -2, -2));
-    }
+  painter.fillRect(event->rect(),
+                   palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, QPalette::Base));
+  const auto paint_if_asked = [&](int row, int col) {
+    if (event->region().intersects(Cell_Rect(row, col))) Paint_Cell(painter, row, col);
   };
   const int below = std::min(First_Row() + Rows_In_Sight() + 1, grid.Rows());
   for (int col = 0; col < grid.Cols(); ++col) {
-    paint_cell(0, col);
-    for (int row = First_Row(); row < below; ++row) paint_cell(row, col);
+    paint_if_asked(0, col);
+    for (int row = First_Row(); row < below; ++row) paint_if_asked(row, col);
   }
 }
 

@@ -6,6 +6,8 @@
 
 #include "flex_grid.h"
 
+class QPainter;
+
 namespace wrenbit {
 
 struct Grid_Cell {
@@ -49,6 +51,7 @@ class Grid_View : public QAbstractScrollArea {
   int Column_Left(int col) const;
   void Set_Scroll_Range();
   void Show_Current_Row();
+  void Paint_Cell(QPainter& painter, int row, int col) const;
   void Make_Current(int row, int col);  // Unless it is a fixed cell or none.
   void Move_To(int row, int col);       // Or as near as the grid reaches.
 

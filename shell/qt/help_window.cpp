@@ -13,8 +13,8 @@
 #include <QUrl>
 
 #include "accessibility.h"
+#include "app.h"
 #include "look.h"
-#include "platform.h"
 
 namespace wrenbit {
 namespace {
@@ -87,7 +87,14 @@ Help_Window::Help_Window() : page(new Page) {
   Set_Role(this, QAccessible::Window);
   setWindowTitle(QString::fromStdString(App.Title + " ヘルプ"));
   resize(kSize.boundedTo(screen()->availableSize()));
+  auto* rows = new QVBoxLayout(this);
+  rows->addLayout(Make_Tools());
+  rows->addWidget(page);
+  Set_Up_Page();
+  connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, this, &QWidget::close);
+}
 
+QLayout* Help_Window::Make_Tools() {
   auto* tools = new QHBoxLayout;
   Add_Button(*tools, this, QStringLiteral("目次"), QStringLiteral("C"), QKeySequence(Qt::ALT | Qt::Key_Home),
              [this] { Go_To_Contents(); });
@@ -95,11 +102,14 @@ Help_Window::Help_Window() : page(new Page) {
                                  QKeySequence(Qt::ALT | Qt::Key_Left), [this] { page->backward(); });
   QPushButton* forward = Add_Button(*tools, this, QStringLiteral("進む"), QStringLiteral("F"),
                                     QKeySequence(Qt::ALT | Qt::Key_Right), [this] { page->forward(); });
+  for (QPushButton* button : {back, forward}) button->setEnabled(false);
+  connect(page, &QTextBrowser::backwardAvailable, back, &QWidget::setEnabled);
+  connect(page, &QTextBrowser::forwardAvailable, forward, &QWidget::setEnabled);
   tools->addStretch();
-  auto* rows = new QVBoxLayout(this);
-  rows->addLayout(tools);
-  rows->addWidget(page);
+  return tools;
+}
 
+void Help_Window::Set_Up_Page() {
   page->setFont(Font_For({.Points = 10.5}));
   page->document()->setDefaultStyleSheet(QStringLiteral("pre, code { font-family: '%1' }")
                                              .arg(Font_For({.Face = Typeface::FixedPitch}).family()));
@@ -107,10 +117,6 @@ Help_Window::Help_Window() : page(new Page) {
   page->setAccessibleName(windowTitle());
   page->setOpenLinks(false);
   connect(page, &QTextBrowser::anchorClicked, this, &Help_Window::Follow);
-  for (QPushButton* button : {back, forward}) button->setEnabled(false);
-  connect(page, &QTextBrowser::backwardAvailable, back, &QWidget::setEnabled);
-  connect(page, &QTextBrowser::forwardAvailable, forward, &QWidget::setEnabled);
-  connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, this, &QWidget::close);
 }
 
 std::string Help_Window::Show_Contents(const std::string& path) {

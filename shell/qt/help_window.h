@@ -4,6 +4,7 @@
 #include <QWidget>
 #include <string>
 
+class QLayout;
 class QUrl;
 
 namespace wrenbit {
@@ -22,6 +23,8 @@ class Help_Window : public QWidget {
  private:
   class Page;
 
+  QLayout* Make_Tools();
+  void Set_Up_Page();
   void Go_To_Contents();
   void Follow(const QUrl& link);
 

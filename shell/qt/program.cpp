@@ -7,6 +7,7 @@
 #include <QTranslator>
 
 #include "accessibility.h"
+#include "app.h"
 #include "end_signals.h"
 #include "file_dialog.h"
 #include "fitted_text.h"

@@ -1,5 +1,6 @@
 #include "frm_about.h"
 
+#include "app.h"
 #include "platform.h"
 #include "window_events.h"
 

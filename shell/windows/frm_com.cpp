@@ -1,8 +1,8 @@
 #include "frm_com.h"
 
+#include "app.h"
 #include "com_ports.h"
 #include "mscomm.h"
-#include "number_text.h"
 #include "platform.h"
 #include "settings.h"
 #include "state.h"
@@ -29,8 +29,8 @@ void Form_Load() {
   frmCom.Cmb_com.Clear();
   for (int number = 1; number <= kComPorts; ++number) frmCom.Cmb_com.AddItem(std::to_string(number));
   frmCom.Cmb_com.Set_ListIndex(static_cast<int>(Get_Number_Setting(key::kComNo, 0)));
-  frmCom.CheckRTS.Set_Value(Get_Number_Setting(key::kRts, 1) != 0);
-  frmCom.CheckDTR.Set_Value(Get_Number_Setting(key::kDtr, 0) != 0);
+  frmCom.CheckRTS.Set_Value(Stored_RTS());
+  frmCom.CheckDTR.Set_Value(Stored_DTR());
 }
 
 void Form_Unload() {

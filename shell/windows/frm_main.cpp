@@ -2,6 +2,8 @@
 
 #include <cstdio>
 
+#include "app.h"
+#include "block_transfer.h"
 #include "cell_selection.h"
 #include "device_selection.h"
 #include "edit_panel.h"
@@ -34,8 +36,7 @@ std::string Position_Text(double twips) {
 // The block sizes stand until the first device is selected.
 void Form_Load() {
   frmMain.Move(Stored_Position(key::kMainLeft), Stored_Position(key::kMainTop));
-  frmMain.CmbSize.Clear();
-  for (long size = 16; size <= 131072; size *= 2) frmMain.CmbSize.AddItem(std::to_string(size));
+  Offer_Block_Sizes(kLargestBlock);
   if (!frmMain.CmbSize.Set_ListIndex(static_cast<int>(Get_Number_Setting(key::kAccessSize, 0))))
     frmMain.CmbSize.Set_ListIndex(0);
 }

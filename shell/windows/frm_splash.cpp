@@ -1,6 +1,6 @@
 #include "frm_splash.h"
 
-#include "platform.h"
+#include "app.h"
 #include "window_events.h"
 
 namespace wrenbit {

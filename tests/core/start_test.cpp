@@ -6,6 +6,8 @@
 
 #include <filesystem>
 
+#include "app.h"
+#include "fresh_state.h"
 #include "state.h"
 #include "temporary_folder.h"
 #include "test_bench.h"

@@ -7,8 +7,8 @@
 #include <QImage>
 #include <QPainter>
 
+#include "app.h"
 #include "look.h"
-#include "platform.h"
 #include "windows.h"
 
 namespace wrenbit {

@@ -4,7 +4,8 @@
 
 #include <algorithm>
 
-#include "state.h"
+#include "app.h"
+#include "fresh_state.h"
 #include "wiring.h"
 
 namespace wrenbit {

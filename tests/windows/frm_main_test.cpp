@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include "app.h"
 #include "chip_bench.h"
 #include "frm_about.h"
 #include "frm_com.h"

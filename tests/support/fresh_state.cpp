@@ -1,5 +1,6 @@
-#include "state.h"
+#include "fresh_state.h"
 
+#include "state.h"
 #include "windows.h"
 
 namespace wrenbit {
@@ -24,7 +25,10 @@ void Reset_State() {
   HexFilePath.clear();
   MainTitle.clear();
   AppFolder.clear();
-  Reset_Windows();
+  for (Form* form : {static_cast<Form*>(&frmMain), static_cast<Form*>(&frmCom), static_cast<Form*>(&frmAbout),
+                     static_cast<Form*>(&frmSplash)})
+    form->Reset_All();
+  frmMain.dlgCommonDialog = {};
 }
 
 }  // namespace wrenbit

@@ -1,11 +1,11 @@
-#include "refusal.h"
+#include "failure.h"
 
 #include "frm_main.h"
 #include "state.h"
 
 namespace wrenbit {
 
-void Refuse_Transfer(const char* why) {
+void Fail(const std::string& why) {
   frmMain.sbStatusBar.Set_Panel(1, why);
   LinkError = 1;
 }

@@ -1,8 +1,6 @@
-#include "platform.h"
+#include "app.h"
 
 #include <algorithm>
-#include <filesystem>
-#include <fstream>
 
 namespace wrenbit {
 
@@ -15,11 +13,6 @@ std::string App_Title_Upper() {
   std::transform(title.begin(), title.end(), title.begin(),
                  [](char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; });
   return title;
-}
-
-bool File_Exists(const std::string& path) {
-  std::error_code ignored;
-  return std::filesystem::is_regular_file(path, ignored) && std::ifstream(path).is_open();
 }
 
 }  // namespace wrenbit
