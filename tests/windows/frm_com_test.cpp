@@ -3,32 +3,27 @@
 
 #include <gtest/gtest.h>
 
-#include "hex_grid.h"
-#include "state.h"
-#include "test_bench.h"
+#include "chip_bench.h"
 #include "transfer_commands.h"
 
 namespace wrenbit {
 namespace {
 
-TEST(Port_Window, ShowsWhatIsStoredAndTriesThePort) {
+struct Port_Window : testing::Test {
   Test_Bench bench;
+};
+
+TEST_F(Port_Window, ShowsWhatIsStoredAndStoresAPickAlsoWhenThePortCannotBeUsed) {
   bench.Stored = {{"ComNo", "4"}, {"RTS", "0"}, {"DTR", "1"}};
   frmCom.Show_Modal();
   EXPECT_EQ(frmCom.Cmb_com.Text(), "5");
   EXPECT_EQ(frmCom.CheckRTS.Value(), 0);
   EXPECT_EQ(frmCom.CheckDTR.Value(), 1);
   EXPECT_TRUE(bench.Is_Open());
+  EXPECT_TRUE(bench.Opened.back().starts_with("COM5 "));
   frmCom.CheckRTS.Set_Value(1);
   EXPECT_EQ(bench.Stored["RTS"], "1");
-  frmCom.Close();
-  EXPECT_FALSE(bench.Is_Open());
-  EXPECT_FALSE(frmCom.Visible());
-}
 
-TEST(Port_Window, APickIsStoredAlsoWhenThePortCannotBeUsed) {
-  Test_Bench bench;
-  frmCom.Show_Modal();
   bench.Refusal = Port_Fault::No_Such_Port;
   frmCom.Cmb_com.Set_ListIndex(19);
   EXPECT_EQ(bench.Boxes, std::vector<std::string>{"wrenbit | 指定した通信ポートは使用できませんでした。"});
@@ -37,12 +32,9 @@ TEST(Port_Window, APickIsStoredAlsoWhenThePortCannotBeUsed) {
   EXPECT_TRUE(frmCom.Visible());
 }
 
-TEST(Port_Window, AfterATransferItLeavesThePortAloneUntilAPick) {
-  Test_Bench bench;
+TEST_F(Port_Window, AfterATransferItLeavesThePortAloneUntilAPick) {
   bench.Stored["ComNo"] = "2";
-  DeviceFamily = 2;
-  MemSize = 8;
-  Buffer_Init();
+  Select_Device(2, 8, 8, 1);
   Cmd_READ_single_Click();
   EXPECT_EQ(bench.Opened.size(), 1u);
   frmCom.Show_Modal();
@@ -56,16 +48,14 @@ TEST(Port_Window, AfterATransferItLeavesThePortAloneUntilAPick) {
   EXPECT_TRUE(bench.Is_Open()) << "closed, it is loaded afresh";
 }
 
-TEST(Port_Window, EachEntryTellsItsDevice) {
-  Test_Bench bench;
+TEST_F(Port_Window, EachEntryTellsItsDevice) {
   bench.Devices = {{1, {"/dev/ttyUSB0", true, "Maker", "UART bridge"}}, {20, {"/dev/ttyS0"}}};
   EXPECT_EQ(frmCom.Cmb_com.Tip(0), "/dev/ttyUSB0  Maker  UART bridge");
   EXPECT_EQ(frmCom.Cmb_com.Tip(1), "この番号のシリアルポートはありません。");
   EXPECT_EQ(frmCom.Cmb_com.Tip(19), "/dev/ttyS0");
 }
 
-TEST(Port_Window, ASecondClickWhileItLoadsLeavesAWindowThatCloses) {
-  Test_Bench bench;
+TEST_F(Port_Window, ASecondClickWhileItLoadsLeavesAWindowThatCloses) {
   bench.Stored["DTR"] = "1";  // Its check box yields while the window loads.
   bench.On_Yield = [&] {
     bench.On_Yield = nullptr;
@@ -73,9 +63,6 @@ TEST(Port_Window, ASecondClickWhileItLoadsLeavesAWindowThatCloses) {
     frmCom.Cmd_Close.Click();
   };
   frmCom.Show_Modal();
-  EXPECT_FALSE(frmCom.Visible());
-  frmCom.Show_Modal();
-  frmCom.Close();
   EXPECT_FALSE(frmCom.Visible());
 }
 
