@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QAccessible>
 #include <QScreen>
 #include <QScrollBar>
 #include <QTest>
@@ -14,8 +15,7 @@ namespace {
 
 constexpr int kRows = 100;  // With the header.
 
-class GridView : public testing::Test {
- protected:
+struct GridView : testing::Test {
   GridView() {
     form.Show();
     grid.Set_Cols(18);
@@ -25,51 +25,66 @@ class GridView : public testing::Test {
     grid.Set_Col(1);
     grid.Click = [this] { ++clicks; };
   }
-  void Click_At(int row, int col) {
-    QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, view.Cell_Rect(row, col).center());
-  }
 
   Form form{10275, 7035};
   FlexGrid grid{form, {135, 1800, 10005, 4560}, {.Face = Typeface::FixedPitch}};
-  Form_View window{form, Form_Kind::Dialog};
-  Grid_View& view = dynamic_cast<Grid_View&>(*window.View_Of(grid));
+  std::unique_ptr<Form_View> window = std::make_unique<Form_View>(form, Form_Kind::Dialog);
+  Grid_View& view = dynamic_cast<Grid_View&>(*window->View_Of(grid));
   int clicks = 0;
 };
 
-TEST_F(GridView, AClickMovesTheCurrentCellUnlessItIsAFixedOne) {
-  struct {
-    int row, col, then_row, then_col;
-  } const cases[] = {{2, 16, 2, 16}, {3, 17, 3, 17}, {0, 5, 3, 17}, {7, 0, 3, 17}, {1, 1, 1, 1}};
+TEST_F(GridView, ClicksAndKeysMoveTheCurrentCellInSightButNotIntoTheHeaders) {
+  const auto click = [this](int row, int col) {
+    return [=, this] {
+      QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, view.Cell_Rect(row, col).center());
+    };
+  };
+  const auto key = [this](Qt::Key pressed, Qt::KeyboardModifiers with = {}) {
+    return [=, this] { QTest::keyClick(&view, pressed, with); };
+  };
+  const int last = kRows - 1, page = view.verticalScrollBar()->pageStep();
+  const struct {
+    std::function<void()> Do;
+    int Row, Col, Clicks;
+  } cases[] = {
+      {click(2, 16), 2, 16, 1},
+      {click(0, 5), 2, 16, 1},
+      {click(7, 0), 2, 16, 1},
+      {click(1, 1), 1, 1, 1},
+      {key(Qt::Key_Left), 1, 1, 0},
+      {key(Qt::Key_PageUp), 1, 1, 0},
+      {key(Qt::Key_Right), 1, 2, 0},
+      {key(Qt::Key_Down), 2, 2, 0},
+      {key(Qt::Key_Up), 1, 2, 0},
+      {key(Qt::Key_End), 1, 17, 0},
+      {key(Qt::Key_PageDown), 1 + page, 17, 0},
+      {key(Qt::Key_End, Qt::ControlModifier), last, 17, 0},
+      {key(Qt::Key_PageDown), last, 17, 0},
+      {key(Qt::Key_PageUp), last - page, 17, 0},
+      {key(Qt::Key_Home), last - page, 1, 0},
+      {key(Qt::Key_Home, Qt::ControlModifier), 1, 1, 0},
+      {key(Qt::Key_Return), 1, 1, 1},
+  };
   for (const auto& c : cases) {
+    SCOPED_TRACE(&c - cases);
     clicks = 0;
-    Click_At(c.row, c.col);
-    EXPECT_EQ(clicks, 1) << c.row << ',' << c.col;
-    EXPECT_EQ(grid.Row(), c.then_row) << c.row << ',' << c.col;
-    EXPECT_EQ(grid.Col(), c.then_col) << c.row << ',' << c.col;
+    c.Do();
+    EXPECT_EQ(grid.Row(), c.Row);
+    EXPECT_EQ(grid.Col(), c.Col);
+    EXPECT_EQ(clicks, c.Clicks);
+    EXPECT_EQ(view.Cell_Rect(c.Row, c.Col).height(), view.Cell_Rect(0, 1).height());
   }
-}
-
-// A refill runs through all rows of the hidden grid.
-TEST_F(GridView, ScrollsToTheCurrentRowWhenItComesBackAndNotBefore) {
-  grid.Set_Visible(false);
-  grid.Set_Row(kRows - 1);
-  EXPECT_EQ(view.verticalScrollBar()->value(), 0);
-  grid.Set_Visible(true);
-  EXPECT_FALSE(view.Cell_Rect(kRows - 1, 1).isEmpty());
 }
 
 // Scrolling moves what is on the screen and paints only the rest.
 TEST_F(GridView, AScrolledGridLooksLikeAPaintedOne) {
   for (int row = 1; row < kRows; ++row) {
     grid.Set_Row(row);
-    for (int col = 0; col < 18; ++col) {
-      grid.Set_Col(col);
-      grid.Set_Text(std::to_string(row * 18 + col));
-    }
+    grid.Set_Text(std::to_string(row));
   }
   const auto on_screen = [this] {
     QCoreApplication::processEvents();
-    return window.screen()->grabWindow(window.winId()).toImage();
+    return window->screen()->grabWindow(window->winId()).toImage();
   };
   QImage before;
   for (const int line : {40, 41, 40, 47, 30, 0, 99, 5}) {
@@ -82,42 +97,65 @@ TEST_F(GridView, AScrolledGridLooksLikeAPaintedOne) {
   }
 }
 
-TEST_F(GridView, KeysMoveTheCurrentCellInSightAndClickNothing) {
-  const int page = view.verticalScrollBar()->pageStep();
-  struct {
-    Qt::Key key;
-    Qt::KeyboardModifier with;
-    int row, col;
-  } const cases[] = {{Qt::Key_Left, Qt::NoModifier, 1, 1},
-                     {Qt::Key_Up, Qt::NoModifier, 1, 1},
-                     {Qt::Key_Right, Qt::NoModifier, 1, 2},
-                     {Qt::Key_Down, Qt::NoModifier, 2, 2},
-                     {Qt::Key_End, Qt::NoModifier, 2, 17},
-                     {Qt::Key_Right, Qt::NoModifier, 2, 17},
-                     {Qt::Key_PageDown, Qt::NoModifier, 2 + page, 17},
-                     {Qt::Key_End, Qt::ControlModifier, kRows - 1, 17},
-                     {Qt::Key_Down, Qt::NoModifier, kRows - 1, 17},
-                     {Qt::Key_PageUp, Qt::NoModifier, kRows - 1 - page, 17},
-                     {Qt::Key_Home, Qt::NoModifier, kRows - 1 - page, 1},
-                     {Qt::Key_Home, Qt::ControlModifier, 1, 1}};
-  for (const auto& c : cases) {
-    QTest::keyClick(&view, c.key, c.with);
-    EXPECT_EQ(grid.Row(), c.row) << c.key;
-    EXPECT_EQ(grid.Col(), c.col) << c.key;
-    EXPECT_EQ(view.Cell_Rect(c.row, c.col).height(), view.Cell_Rect(0, 1).height()) << c.key;
-  }
-  EXPECT_EQ(clicks, 0);
-}
-
-TEST_F(GridView, ACellThatCodeMakesCurrentComesIntoSight) {
+TEST_F(GridView, ARowThatCodeMakesCurrentComesIntoSightAlsoAfterARefillOfTheHiddenGrid) {
   for (const int row : {kRows - 1, 50, 1}) {
     grid.Set_Row(row);
     EXPECT_FALSE(view.Cell_Rect(row, 1).isEmpty()) << row;
   }
+  grid.Set_Visible(false);
   grid.Set_Row(kRows - 1);
+  grid.Set_Visible(true);
+  EXPECT_FALSE(view.Cell_Rect(kRows - 1, 1).isEmpty());
   grid.Set_Rows(3);
   EXPECT_EQ(view.verticalScrollBar()->maximum(), 0);
-  EXPECT_FALSE(view.Cell_Rect(1, 1).isEmpty());
+}
+
+TEST_F(GridView, AssistiveTechnologyFindsACellByRowAndColumnAndPressesItFromAfar) {
+  grid.Set_FormatString("Adr.|^0x00|^0x01");
+  grid.Set_Row(80);
+  grid.Set_Col(0);
+  grid.Set_ColSel(17);
+  grid.Set_Clip("0x4F0\tAA\t55");
+  QAccessibleInterface& seen = *QAccessible::queryAccessibleInterface(&view);
+  QAccessibleTableInterface& table = *seen.tableInterface();
+  EXPECT_EQ(table.rowCount(), kRows - 1);
+  EXPECT_EQ(table.cellAt(kRows - 1, 1), nullptr);
+  QAccessibleInterface& cell = *table.cellAt(79, 2);
+  EXPECT_EQ(cell.tableCellInterface()->rowIndex(), 79);
+  EXPECT_EQ(cell.text(QAccessible::Name), "0x4F0 0x01");
+  EXPECT_EQ(cell.textInterface()->text(0, 2), "55");
+  EXPECT_EQ(seen.child(seen.indexOfChild(&cell)), &cell);
+
+  grid.Set_Row(1);
+  const auto act = [](QAccessibleInterface& on, const QString& action) {
+    on.actionInterface()->doAction(action);
+  };
+  const QString press = QAccessibleActionInterface::pressAction();
+  EXPECT_TRUE(cell.state().offscreen);
+  EXPECT_EQ(seen.focusChild(), nullptr);
+  window->activateWindow();
+  QCoreApplication::processEvents();
+  act(cell, QAccessibleActionInterface::setFocusAction());
+  EXPECT_EQ(seen.focusChild(), &cell);
+  EXPECT_TRUE(cell.state().focused);
+  EXPECT_EQ(clicks, 0);
+
+  grid.Set_Row(1);
+  act(cell, press);
+  EXPECT_EQ(clicks, 1);
+  EXPECT_TRUE(cell.state().selected);
+  EXPECT_FALSE(cell.state().offscreen);
+  EXPECT_EQ(seen.childAt(cell.rect().center().x(), cell.rect().center().y()), &cell);
+  act(*seen.child(5), press);
+  EXPECT_EQ(clicks, 2) << "a header";
+  EXPECT_TRUE(cell.state().selected);
+  grid.Set_Enabled(false);
+  act(cell, press);
+  EXPECT_EQ(clicks, 2);
+
+  const QAccessible::Id id = QAccessible::uniqueId(&cell);
+  window.reset();
+  EXPECT_EQ(QAccessible::accessibleInterface(id), nullptr);
 }
 
 }  // namespace
