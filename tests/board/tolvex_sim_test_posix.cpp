@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 #include <poll.h>
 #include <signal.h>
-#include <spawn.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -23,40 +22,35 @@ bool Ready(int file, short event) {
   return poll(&waiting, 1, kPatience) == 1;
 }
 
-// Bytes until `count` of them are there, or until the end of a line if `count` is 0; fewer at the end of the
-// file.
-std::string Read(int file, std::size_t count) {
+std::string Line(int file) {
   std::string bytes;
-  for (char byte; (count ? bytes.size() < count : !bytes.ends_with('\n')) && Ready(file, POLLIN);) {
-    if (read(file, &byte, 1) != 1) break;
-    bytes += byte;
-  }
+  for (char byte; !bytes.ends_with('\n') && Ready(file, POLLIN) && read(file, &byte, 1) == 1;) bytes += byte;
   return bytes;
 }
 
+std::pair<board::Descriptor, board::Descriptor> Pipe() {
+  int ends[2];
+  EXPECT_EQ(pipe2(ends, O_CLOEXEC), 0);
+  return {board::Descriptor(ends[0]), board::Descriptor(ends[1])};
+}
+
+// A board on COM3 with a 24C02.
 class Simulator {
  public:
-  Simulator(const fs::path& config, std::vector<std::string> arguments) {
-    int ends[2];
-    EXPECT_EQ(pipe2(ends, O_CLOEXEC), 0);
-    Output = board::Descriptor(ends[0]);
-    const board::Descriptor into(ends[1]);
-    EXPECT_EQ(pipe2(ends, O_CLOEXEC), 0);
-    const board::Descriptor keys(ends[0]);
-    Keyboard = board::Descriptor(ends[1]);
-    posix_spawn_file_actions_t actions;
-    posix_spawn_file_actions_init(&actions);
-    posix_spawn_file_actions_adddup2(&actions, *keys, STDIN_FILENO);
-    posix_spawn_file_actions_adddup2(&actions, *into, STDOUT_FILENO);
-    posix_spawn_file_actions_adddup2(&actions, *into, STDERR_FILENO);
-    std::string variable = "XDG_CONFIG_HOME=" + config.string();
-    char* environment[] = {variable.data(), nullptr};
-    arguments.insert(arguments.begin(), "tolvex-sim");
-    std::vector<char*> argv;
-    for (auto& argument : arguments) argv.push_back(argument.data());
-    argv.push_back(nullptr);
-    EXPECT_EQ(posix_spawn(&Child, TOLVEX_SIM, &actions, nullptr, argv.data(), environment), 0);
-    posix_spawn_file_actions_destroy(&actions);
+  explicit Simulator(const std::string& config) {
+    auto [keys, typing] = Pipe();
+    auto [output, into] = Pipe();
+    Child = fork();
+    if (Child == 0) {
+      dup2(*keys, STDIN_FILENO);
+      dup2(*into, STDOUT_FILENO);
+      dup2(*into, STDERR_FILENO);
+      setenv("XDG_CONFIG_HOME", config.c_str(), 1);
+      execl(TOLVEX_SIM, "tolvex-sim", "--com", "3", "--chip", "24C02", nullptr);
+      _exit(127);
+    }
+    Output = std::move(output);
+    Keyboard = std::move(typing);
   }
   ~Simulator() {
     if (Child > 0) End(SIGKILL);
@@ -64,7 +58,7 @@ class Simulator {
   Simulator(const Simulator&) = delete;
   Simulator& operator=(const Simulator&) = delete;
 
-  std::string Line() { return Read(*Output, 0); }
+  std::string Says() { return Line(*Output); }
   void Type(const std::string& keys) {
     EXPECT_EQ(write(*Keyboard, keys.data(), keys.size()), static_cast<ssize_t>(keys.size()));
   }
@@ -72,7 +66,7 @@ class Simulator {
 
   // The exit code, or minus the signal that it died of. A program that doesn't end is killed.
   int Wait() {
-    for (std::string line = Line(); !line.empty(); line = Line()) Farewell += line;
+    for (std::string line = Says(); !line.empty(); line = Says()) Farewell += line;
     if (!Ready(*Output, POLLIN)) kill(Child, SIGKILL);
     int status = 0;
     waitpid(std::exchange(Child, 0), &status, 0);
@@ -90,83 +84,73 @@ class Simulator {
   board::Descriptor Output, Keyboard;
 };
 
-class Tolvex_Sim : public testing::Test {
- protected:
+struct Tolvex_Sim : testing::Test {
   Tolvex_Sim() { fs::create_directories(Ports); }
 
-  std::string Ask() const {
+  void Expect_Answer() const {
     const board::Descriptor port(open(Link.c_str(), O_RDWR | O_NOCTTY));
     EXPECT_EQ(write(*port, "?", 1), 1);
-    return Read(*port, 17);
+    EXPECT_EQ(Line(*port), "TOLVEX Ver.5.00\r\n");
+  }
+  void Expect_Refusal(const std::string& why) const {
+    Simulator refused(Config.Path());
+    EXPECT_EQ(refused.Wait(), 1);
+    EXPECT_NE(refused.Farewell.find(why), std::string::npos) << refused.Farewell;
   }
 
   const Temporary_Folder Config;
   const fs::path Ports = Config / "wrenbit/ports";
   const fs::path Link = Ports / "COM3";
   const fs::path Lock = Ports / "COM3.lock";
-  const std::vector<std::string> Plain{"--com", "3", "--chip", "24C02"};
-  const std::string Identity = "TOLVEX Ver.5.00\r\n";
 };
 
 TEST_F(Tolvex_Sim, Answers_Each_Time_The_Port_Is_Opened_And_Cleans_Up_At_A_Signal) {
   for (const int with : {SIGINT, SIGTERM, SIGHUP}) {
-    Simulator simulator(Config / "", Plain);
-    const std::string ready = simulator.Line();
+    Simulator simulator(Config.Path());
+    const std::string ready = simulator.Says();
     EXPECT_EQ(ready, "tolvex-sim: 24C02 (256 bytes, erased, kept nowhere) on COM3 = " +
                          fs::read_symlink(Link).string() + ", firmware 5.00\n");
-    for (int i = 0; i < 3; ++i) EXPECT_EQ(Ask(), Identity);
+    for (int i = 0; i < 3; ++i) Expect_Answer();
     EXPECT_EQ(simulator.End(with), 0);
     EXPECT_EQ(simulator.Farewell, "tolvex-sim: 3 commands, 3 bytes out to the board, 51 bytes back\n");
     EXPECT_TRUE(fs::is_empty(Ports));
   }
 }
 
-TEST_F(Tolvex_Sim, Takes_Over_The_Link_Of_A_Killed_Board) {
+TEST_F(Tolvex_Sim, Takes_Over_The_Link_Of_A_Killed_Board_And_Not_That_Of_A_Living_One) {
   {
-    Simulator killed(Config / "", Plain);
-    killed.Line();
+    Simulator killed(Config.Path());
+    killed.Says();
     EXPECT_EQ(killed.End(SIGKILL), -SIGKILL);
   }
   ASSERT_TRUE(fs::is_symlink(Link) && fs::exists(Lock));
   fs::remove(Link);
   fs::create_symlink("/dev/pts/nobody", Link);
-  Simulator next(Config / "", Plain);
-  ASSERT_NE(next.Line().find("on COM3"), std::string::npos);
-  EXPECT_EQ(Ask(), Identity);
-}
-
-TEST_F(Tolvex_Sim, Is_Refused_A_Port_On_Which_Another_Board_Lives) {
-  Simulator first(Config / "", Plain);
-  first.Line();
-  Simulator second(Config / "", Plain);
-  EXPECT_EQ(second.Wait(), 1);
-  EXPECT_NE(second.Farewell.find("another board is on COM3"), std::string::npos);
-  EXPECT_EQ(Ask(), Identity);
+  Simulator next(Config.Path());
+  ASSERT_NE(next.Says().find("on COM3"), std::string::npos);
+  Expect_Refusal("another board is on COM3");
+  Expect_Answer();
 }
 
 TEST_F(Tolvex_Sim, Leaves_A_Link_Alone_That_No_Board_Made) {
-  struct {
-    const char* Target;
-    bool Locked;
-  } const cases[] = {{"/dev/null", false}, {"/dev/pts/7", false}, {"/dev/ttyUSB0", true}};
-  for (const auto& foreign : cases) {
-    fs::create_symlink(foreign.Target, Link);
-    if (foreign.Locked) Put_Content(Lock, "");
-    Simulator refused(Config / "", Plain);
-    EXPECT_EQ(refused.Wait(), 1);
-    EXPECT_NE(refused.Farewell.find("left alone"), std::string::npos);
-    EXPECT_EQ(fs::read_symlink(Link), foreign.Target);
-    EXPECT_EQ(fs::exists(Lock), foreign.Locked);
+  const std::pair<const char*, bool> cases[] = {
+      {"/dev/null", false}, {"/dev/pts/7", false}, {"/dev/ttyUSB0", true}};
+  for (const auto& [target, locked] : cases) {
+    fs::create_symlink(target, Link);
+    if (locked) Put_Content(Lock, "");
+    Expect_Refusal("left alone");
+    EXPECT_EQ(fs::read_symlink(Link), target);
+    EXPECT_EQ(fs::exists(Lock), locked);
     fs::remove(Link);
   }
   Put_Content(Link, "a file");
-  EXPECT_EQ(Simulator(Config / "", Plain).Wait(), 1);
+  Expect_Refusal("left alone");
   EXPECT_EQ(Content(Link), "a file");
 }
 
 TEST_F(Tolvex_Sim, Outlives_A_Port_That_Sends_And_Never_Reads) {
-  Simulator simulator(Config / "", Plain);
-  simulator.Line();
+  Simulator simulator(Config.Path());
+  simulator.Says();
   const board::Descriptor port(open(Link.c_str(), O_RDWR | O_NOCTTY | O_NONBLOCK));
   const std::string queries(1000, '?');  // 17 bytes back for each, far more than a terminal holds.
   for (std::size_t sent = 0; sent < 20000;) {
@@ -179,11 +163,11 @@ TEST_F(Tolvex_Sim, Outlives_A_Port_That_Sends_And_Never_Reads) {
 
 TEST_F(Tolvex_Sim, Swaps_The_Chip_At_A_Typed_Line_And_Keeps_It_When_The_Line_Is_Wrong) {
   const std::string image = Config / "a chip.bin";
-  Put_Content(Config / "short.bin", "short");
-  Simulator simulator(Config / "", Plain);
-  simulator.Line();
-  const std::string chip = "AT93C46 (128 bytes, kept in " + image + ") in the socket";
   const std::string small = Config / "short.bin";
+  Put_Content(small, "short");
+  Simulator simulator(Config.Path());
+  simulator.Says();
+  const std::string chip = "AT93C46 (128 bytes, kept in " + image + ") in the socket";
   const struct {
     std::string Typed;
     std::vector<std::string> Says;
@@ -198,13 +182,13 @@ TEST_F(Tolvex_Sim, Swaps_The_Chip_At_A_Typed_Line_And_Keeps_It_When_The_Line_Is_
   };
   for (const auto& line : lines) {
     simulator.Type(line.Typed);
-    for (const std::string& says : line.Says) EXPECT_EQ(simulator.Line(), "tolvex-sim: " + says + "\n");
+    for (const std::string& says : line.Says) EXPECT_EQ(simulator.Says(), "tolvex-sim: " + says + "\n");
   }
   EXPECT_EQ(Content(image), std::string(128, '\xFF'));
   simulator.Type("24C64");
   simulator.End_Typing();
-  EXPECT_EQ(simulator.Line(), "tolvex-sim: 24C64 (8192 bytes, erased, kept nowhere) in the socket\n");
-  EXPECT_EQ(Ask(), Identity);
+  EXPECT_EQ(simulator.Says(), "tolvex-sim: 24C64 (8192 bytes, erased, kept nowhere) in the socket\n");
+  Expect_Answer();
   EXPECT_EQ(simulator.End(SIGTERM), 0);
 }
 

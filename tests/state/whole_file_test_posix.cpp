@@ -4,9 +4,9 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <csignal>
 #include <cstring>
-#include <fstream>
 
 #include "plain_user_posix.h"
 #include "temporary_folder.h"
@@ -23,84 +23,57 @@ constexpr const char* kDiskFull = "ディスクの空き容量が足りません
 constexpr const char* kFolder = "同じ名前のフォルダがあります。";
 constexpr const char* kNoRegularFile = "通常のファイルではないので、書き込めません。";
 
-mode_t Mode(const std::string& path) {
-  struct stat status {};
-  EXPECT_EQ(stat(path.c_str(), &status), 0) << path;
-  return status.st_mode & 07777;
+// Files may grow to so many bytes and no further.
+void Limit_Files(rlim_t bytes) {
+  rlimit limit;
+  getrlimit(RLIMIT_FSIZE, &limit);
+  limit.rlim_cur = std::min(bytes, limit.rlim_max);
+  setrlimit(RLIMIT_FSIZE, &limit);
 }
 
-// A file may grow to so many bytes and no further, as on a disk that fills up: write takes a part, then
-// fails.
-class Small_Disk {
- public:
-  explicit Small_Disk(rlim_t bytes) : handler(std::signal(SIGXFSZ, SIG_IGN)) {
-    getrlimit(RLIMIT_FSIZE, &old);
-    const rlimit small{bytes, old.rlim_max};
-    setrlimit(RLIMIT_FSIZE, &small);
-  }
-  ~Small_Disk() {
-    setrlimit(RLIMIT_FSIZE, &old);
-    std::signal(SIGXFSZ, handler);
-  }
-
- private:
-  rlimit old{};
-  void (*const handler)(int);
+struct WholeFile : testing::Test {
+  const Temporary_Folder folder;
+  const std::string file = folder / "a.hex";
 };
 
-TEST(WholeFile, ReadsNothingButRegularFiles) {
-  const Temporary_Folder folder;
+TEST_F(WholeFile, ReadsNothingButRegularFiles) {
   ASSERT_EQ(mkfifo((folder / "pipe").c_str(), 0666), 0);
-  for (const std::string& path :
-       {folder / "none", folder / "pipe", folder.Path(), std::string("/dev/zero")}) {
-    EXPECT_EQ(Read_Whole_File(path), std::nullopt) << path;
-  }
-  std::ofstream(folder / "vast").flush();
+  Put_Content(folder / "vast", "");
   fs::resize_file(folder / "vast", std::uintmax_t{1} << 30);
-  EXPECT_EQ(Read_Whole_File(folder / "vast"), std::nullopt);
+  for (const std::string& path :
+       {folder / "none", folder / "pipe", folder / "vast", folder.Path(), std::string("/dev/zero")})
+    EXPECT_EQ(Read_Whole_File(path), std::nullopt) << path;
 }
 
-TEST(WholeFile, ANewFileFollowsTheUmaskAndAReplacedOneKeepsItsMode) {
-  const Temporary_Folder folder;
+TEST_F(WholeFile, ANewFileFollowsTheUmaskAndAReplacedOneKeepsItsMode) {
   const mode_t old_mask = umask(027);
-  EXPECT_EQ(Write_Whole_File(folder / "a.hex", "1"), std::nullopt);
-  EXPECT_EQ(Mode(folder / "a.hex"), 0640u);
-  chmod((folder / "a.hex").c_str(), 0606);
-  EXPECT_EQ(Write_Whole_File(folder / "a.hex", "2"), std::nullopt);
-  EXPECT_EQ(Mode(folder / "a.hex"), 0606u);
+  for (const unsigned mode : {0640u, 0606u}) {
+    EXPECT_EQ(Write_Whole_File(file, "1"), std::nullopt);
+    EXPECT_EQ(static_cast<unsigned>(fs::status(file).permissions()), mode);
+    chmod(file.c_str(), 0606);
+  }
   umask(old_mask);
 }
 
-TEST(WholeFile, ALinkStaysAndItsGoalIsWritten) {
-  const Temporary_Folder folder;
+TEST_F(WholeFile, ALinkStaysAndItsGoalIsWritten) {
   fs::create_directory(folder / "below");
   fs::create_symlink("below/second", folder / "first");
   fs::create_symlink("file", folder / "below/second");
   for (const char* text : {"made", "replaced"}) {
     EXPECT_EQ(Write_Whole_File(folder / "first", text), std::nullopt);
-    EXPECT_TRUE(fs::is_symlink(folder / "first"));
-    EXPECT_TRUE(fs::is_symlink(folder / "below/second"));
+    EXPECT_TRUE(fs::is_symlink(folder / "first") && fs::is_symlink(folder / "below/second"));
     EXPECT_EQ(Read_Whole_File(folder / "below/file"), text);
   }
   fs::create_symlink("ring", folder / "ring");
   EXPECT_NE(Write_Whole_File(folder / "ring", "x"), std::nullopt);
-  EXPECT_TRUE(fs::is_symlink(folder / "ring"));
 }
 
-TEST(WholeFile, RefusesWhatIsNoRegularFileAndTellsWhy) {
-  const Temporary_Folder folder;
+TEST_F(WholeFile, RefusesWhatIsNoRegularFileAndTellsWhy) {
   ASSERT_EQ(mkfifo((folder / "pipe").c_str(), 0666), 0);
-  std::ofstream(folder / "file") << "old";
-  const struct {
-    std::string path;
-    const char* reason;
-  } cases[] = {
-      {folder / "none/a.hex", kNoFolder},
-      {folder / "file/a.hex", kNoFolder},
-      {"", kNoFolder},
-      {folder.Path(), kFolder},
-      {folder / "", kFolder},
-      {folder / "pipe", kNoRegularFile},
+  Put_Content(file, "old");
+  const std::pair<std::string, const char*> cases[] = {
+      {folder / "none/a.hex", kNoFolder}, {file + "/a.hex", kNoFolder}, {"", kNoFolder},
+      {folder.Path(), kFolder},           {folder / "", kFolder},       {folder / "pipe", kNoRegularFile},
       {"/dev/null", kNoRegularFile},
   };
   for (const auto& [path, reason] : cases) EXPECT_EQ(Write_Whole_File(path, "x"), reason) << path;
@@ -110,57 +83,54 @@ TEST(WholeFile, RefusesWhatIsNoRegularFileAndTellsWhy) {
   EXPECT_NE(other.find(std::strerror(ENAMETOOLONG)), other.npos) << other;
 }
 
-TEST(WholeFile, AFullDiskLeavesTheOldFileAndNothingBesideIt) {
-  const Temporary_Folder folder;
-  std::ofstream(folder / "a.hex") << "old";
-  {
-    const Small_Disk full(100);
-    EXPECT_EQ(Write_Whole_File(folder / "a.hex", std::string(101, 'x')), kDiskFull);
-    EXPECT_EQ(Write_Whole_File(folder / "b.hex", std::string(101, 'x')), kDiskFull);
-  }
-  EXPECT_EQ(Read_Whole_File(folder / "a.hex"), "old");
+TEST_F(WholeFile, AFullDiskLeavesTheOldFileAndNothingBesideIt) {
+  Put_Content(file, "old");
+  const auto handler =
+      std::signal(SIGXFSZ, SIG_IGN);  // A write then takes what fits, and the next one fails.
+  Limit_Files(100);
+  for (const char* name : {"a.hex", "b.hex"})
+    EXPECT_EQ(Write_Whole_File(folder / name, std::string(101, 'x')), kDiskFull);
+  Limit_Files(RLIM_INFINITY);
+  std::signal(SIGXFSZ, handler);
+  EXPECT_EQ(Content(file), "old");
   EXPECT_EQ(folder.Entries(), 1);
 }
 
-TEST(WholeFile, AProcessKilledInTheMidstLeavesTheOldFile) {
+TEST_F(WholeFile, AProcessKilledInTheMidstLeavesTheOldFile) {
+  Put_Content(file, "old");
   for (const rlim_t at : {0u, 1u, 5000u}) {
-    const Temporary_Folder folder;
-    std::ofstream(folder / "a.hex") << "old";
     const pid_t child = fork();
     if (child == 0) {
-      const rlimit none{0, 0},
-          kills_at{at, at};  // No core file; the signal that ends a file that is too long.
-      setrlimit(RLIMIT_CORE, &none);
-      setrlimit(RLIMIT_FSIZE, &kills_at);
-      Write_Whole_File(folder / "a.hex", std::string(10000, 'x'));
+      const rlimit no_core{0, 0};
+      setrlimit(RLIMIT_CORE, &no_core);
+      Limit_Files(at);  // The signal ends a process whose file grows too long.
+      Write_Whole_File(file, std::string(10000, 'x'));
       _exit(0);
     }
     int status = 0;
     ASSERT_EQ(waitpid(child, &status, 0), child);
     ASSERT_TRUE(WIFSIGNALED(status)) << "it was to be killed at byte " << at;
-    EXPECT_EQ(Read_Whole_File(folder / "a.hex"), "old");
-    for (const auto& left : fs::directory_iterator(folder.Path()))
-      EXPECT_TRUE(left.path().filename() == "a.hex" ||
-                  left.path().filename().string().starts_with(".wrenbit-"));
+    EXPECT_EQ(Content(file), "old");
   }
+  for (const auto& left : fs::directory_iterator(folder.Path()))
+    EXPECT_TRUE(left.path() == file || left.path().filename().string().starts_with(".wrenbit-"));
 }
 
-TEST(WholeFile, RefusesAFileOrFolderThatTheUserMayNotWrite) {
-  const Temporary_Folder folder;
+TEST_F(WholeFile, RefusesAFileOrFolderThatTheUserMayNotWrite) {
   const Plain_User plain;
   if (!plain) GTEST_SKIP() << "root can't become a plain user here";
-  std::ofstream(folder / "read-only") << "old";
-  chmod((folder / "read-only").c_str(), 0444);
-  EXPECT_EQ(Write_Whole_File(folder / "read-only", "new"), kNotAllowed);
-  EXPECT_EQ(Read_Whole_File(folder / "read-only"), "old");
+  Put_Content(file, "old");
+  chmod(file.c_str(), 0444);
+  EXPECT_EQ(Write_Whole_File(file, "new"), kNotAllowed);
+  EXPECT_EQ(Content(file), "old");
   EXPECT_EQ(folder.Entries(), 1);
 
   fs::create_directory(folder / "locked");
-  std::ofstream(folder / "locked/writable") << "old";
+  Put_Content(folder / "locked/writable", "old");
   chmod((folder / "locked").c_str(), 0555);
-  EXPECT_EQ(Write_Whole_File(folder / "locked/a.hex", "new"), kNotAllowed);
-  EXPECT_EQ(Write_Whole_File(folder / "locked/writable", "new"), kNotAllowed);
-  EXPECT_EQ(Read_Whole_File(folder / "locked/writable"), "old");
+  for (const char* name : {"locked/a.hex", "locked/writable"})
+    EXPECT_EQ(Write_Whole_File(folder / name, "new"), kNotAllowed);
+  EXPECT_EQ(Content(folder / "locked/writable"), "old");
   chmod((folder / "locked").c_str(), 0755);
 }
 

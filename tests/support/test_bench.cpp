@@ -33,10 +33,6 @@ void Test_Bench::Forget_Traffic() {
   LongestGap = 0;
 }
 
-void Test_Bench::DoEvents() {
-  if (On_Yield) On_Yield();
-}
-
 void Test_Bench::Await_Event(double seconds) {
   ++Waits;
   EXPECT_GE(seconds, 0) << "the platform waits for ever";
@@ -52,20 +48,6 @@ bool Test_Bench::MsgBox(const std::string& text, Message_Icon icon, Message_Butt
   Box_Icon = icon;
   Boxes.push_back(title + " | " + text);
   return Box_Answer;
-}
-
-std::string Test_Bench::Show_Help(const std::string& path) {
-  Helps.push_back(path);
-  return Help_Answer;
-}
-
-std::string Test_Bench::Get(const std::string&, const std::string& key, const std::string& otherwise) {
-  const auto found = Stored.find(key);
-  return found == Stored.end() ? otherwise : found->second;
-}
-
-void Test_Bench::Save(const std::string&, const std::string& key, const std::string& value) {
-  Stored[key] = value;
 }
 
 Port_Fault Test_Bench::Open(int number, bool rts, bool dtr) {
@@ -108,10 +90,6 @@ Bytes Test_Bench::Take() {
   }
   Received += taken.size();
   return taken;
-}
-
-void Test_Bench::Drop() {
-  std::erase_if(arriving, [&](const Arrival& a) { return a.At <= now; });
 }
 
 bool Test_Bench::Write(std::span<const std::uint8_t> bytes) {

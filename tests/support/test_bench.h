@@ -62,7 +62,9 @@ class Test_Bench : private Platform, private Settings_Store, private Serial_Back
     double At;
     std::uint8_t Byte;
   };
-  void DoEvents() override;
+  void DoEvents() override {
+    if (On_Yield) On_Yield();
+  }
   void Repaint() override {
     if (On_Repaint) On_Repaint();
   }
@@ -71,11 +73,15 @@ class Test_Bench : private Platform, private Settings_Store, private Serial_Back
   void Sleep(int milliseconds) override { now += milliseconds / 1000.0; }
   bool MsgBox(const std::string& text, Message_Icon icon, Message_Buttons, const std::string& title) override;
   void Open_Address(const std::string&) override {}
-  std::string Show_Help(const std::string& path) override;
+  std::string Show_Help(const std::string& path) override { return Helps.push_back(path), Help_Answer; }
   void End() override { Ended = true; }
 
-  std::string Get(const std::string&, const std::string& key, const std::string& otherwise) override;
-  void Save(const std::string&, const std::string& key, const std::string& value) override;
+  std::string Get(const std::string&, const std::string& key, const std::string& otherwise) override {
+    return Stored.contains(key) ? Stored[key] : otherwise;
+  }
+  void Save(const std::string&, const std::string& key, const std::string& value) override {
+    Stored[key] = value;
+  }
 
   Port_Fault Open(int number, bool rts, bool dtr) override;
   std::optional<Serial_Device> Device(int number) override;
@@ -83,7 +89,9 @@ class Test_Bench : private Platform, private Settings_Store, private Serial_Back
   bool Lost() override { return Board && Board->Gone(); }
   std::size_t Waiting() override;
   Bytes Take() override;
-  void Drop() override;
+  void Drop() override {
+    std::erase_if(arriving, [&](const Arrival& a) { return a.At <= now; });
+  }
   bool Write(std::span<const std::uint8_t> bytes) override;
 
   void End_Gap();
