@@ -54,7 +54,7 @@ bool Names_File(const fs::path& path, int file) {
 
 // True when the lock is ours. A program that looks whether a board lives shares the lock for a moment.
 bool Lock_Alone(int file) {
-  constexpr int kTries = 20;
+  constexpr int kTries = 50;
   for (int tries = 1; flock(file, LOCK_EX | LOCK_NB) != 0; ++tries) {
     if (errno != EWOULDBLOCK) Throw_Errno("flock");
     if (tries == kTries) return false;

@@ -66,5 +66,13 @@ TEST_F(Device_Selection, TheBlockSizeFollowsTheChipDownAndNotUpAgain) {
   }
 }
 
+TEST_F(Device_Selection, ARowWithoutASizeLeavesTheBlockSizeChosenBefore) {
+  Select(3);
+  frmMain.CmbSize.Set_ListIndex(6);
+  Select(4);
+  Select(3);
+  EXPECT_EQ(frmMain.CmbSize.Text(), "1024");
+}
+
 }  // namespace
 }  // namespace wrenbit

@@ -5,6 +5,7 @@
 
 #include <filesystem>
 
+#include "app.h"
 #include "frm_main.h"
 #include "hex_grid.h"
 #include "state.h"
@@ -57,7 +58,10 @@ TEST_F(File_Commands, ASavedImageComesBack) {
 TEST_F(File_Commands, ACancelledOrMissingFileChangesNothing) {
   ImageBuffer[0] = 1;
   const std::string caption = frmMain.Caption();
-  for (const std::string& answer : {folder / "none.hex", folder.Path(), std::string()}) {
+  const std::string too_large = folder / "large.hex";
+  Put_Content(too_large, "");
+  std::filesystem::resize_file(too_large, 300 << 20);
+  for (const std::string& answer : {folder / "none.hex", folder.Path(), too_large, std::string()}) {
     SCOPED_TRACE(answer);
     Answer = answer;
     mnuFileOpen_Click();
@@ -84,6 +88,18 @@ TEST_F(File_Commands, AnExistingFileIsAskedForAndStandsWhenRefused) {
   mnuFileSaveAs_Click();
   EXPECT_EQ(Content(Answer).substr(0, 9), ":10000000");
   EXPECT_EQ(frmMain.Caption(), "Title  " + Answer);
+}
+
+TEST_F(File_Commands, ADeviceWithoutASizeTakesNoFileAndOverwritesNone) {
+  Answer = folder / "a.hex";
+  Put_Content(Answer, "good");
+  MemSize = 2;
+  Buffer_Init();
+  for (const auto command : {mnuFileOpen_Click, mnuFileSaveAs_Click}) {
+    command();
+    EXPECT_EQ(Message(), "デバイスのメモリサイズが正しくありません。");
+    EXPECT_EQ(Content(Answer), "good");
+  }
 }
 
 TEST_F(File_Commands, WhatCannotBeWrittenIsToldWithItsReason) {

@@ -19,6 +19,7 @@
 
 #include "form_view.h"
 #include "lists_and_boxes.h"
+#include "status_bar.h"
 #include "platform.h"
 
 namespace wrenbit {

@@ -8,6 +8,7 @@
 #include <QImage>
 #include <QPainter>
 
+#include "app.h"
 #include "fitted_text.h"
 #include "form_view.h"
 #include "look.h"
