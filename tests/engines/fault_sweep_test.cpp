@@ -1,7 +1,6 @@
 // Every transfer, with every fault, at every place where it can strike: n = 1, 2, 3 ... until a run meets no
 // fault any more. What must hold in each of these runs is the list in Violation.
-#include <cstdio>
-#include <sstream>
+#include <iostream>
 
 #include "chip_bench.h"
 #include "faulty_board.h"
@@ -23,40 +22,35 @@ struct Transfer {
   void (*Run)();
   bool Block, Writes;
   const char* Firmware;
-  // Answers that a dead board may be waited for, a second each, in the short and the long form of the
-  // address. With the flag set, power on and off, start and stop ask for one each; a read of a block ends at
-  // the byte in hand, a write of one at the page (24Cxx) or the byte (93Cxx), the byte transfers at their
-  // end.
-  std::size_t Waits24[2], Waits93;
+  // Answers that a dead board may be waited for, a second each, by AddressMode: three-wire, short and long
+  // form. With the flag set, power on and off, start and stop ask for one each; a read of a block ends at the
+  // byte in hand, a write of one at the page (24Cxx) or the byte (93Cxx), the byte transfers at their end.
+  std::size_t Waits[3];
 };
 const Transfer kTransfers[] = {
-    {"block_read", Cmd_READ_all_Click, true, false, "4.90", {16, 17}, 10},
-    {"block_read", Cmd_READ_all_Click, true, false, "5.00", {11, 13}, 5},
-    {"block_write", Cmd_WRITE_all_Click, true, true, "4.90", {14, 23}, 2},
-    {"block_write", Cmd_WRITE_all_Click, true, true, "5.00", {24, 42}, 5},
-    {"byte_read", Cmd_READ_single_Click, false, false, "4.90", {16, 17}, 10},
-    {"byte_read", Cmd_READ_single_Click, false, false, "5.00", {16, 17}, 10},
-    {"byte_write", Cmd_WRITE_single_Click, false, true, "4.90", {7, 8}, 2},
-    {"byte_write", Cmd_WRITE_single_Click, false, true, "5.00", {7, 8}, 2},
+    {"block_read", Cmd_READ_all_Click, true, false, "4.90", {10, 16, 17}},
+    {"block_read", Cmd_READ_all_Click, true, false, "5.00", {5, 11, 13}},
+    {"block_write", Cmd_WRITE_all_Click, true, true, "4.90", {2, 14, 23}},
+    {"block_write", Cmd_WRITE_all_Click, true, true, "5.00", {5, 24, 42}},
+    {"byte_read", Cmd_READ_single_Click, false, false, "4.90", {10, 16, 17}},
+    {"byte_read", Cmd_READ_single_Click, false, false, "5.00", {10, 16, 17}},
+    {"byte_write", Cmd_WRITE_single_Click, false, true, "4.90", {2, 7, 8}},
+    {"byte_write", Cmd_WRITE_single_Click, false, true, "5.00", {2, 7, 8}},
 };
 struct Form {
   const char* Chip;
   int Family, Page, AddressMode, AddressBits;  // Two pages make a block, or one is larger than it.
-  bool Long;
 };
-const Form kForms[] = {{"24C02", 2, 8, 1, 0, false},
-                       {"24C32", 2, 32, 2, 0, true},
-                       {"AT93C46", 3, 1, 0, 7, false},
-                       {"AT93C86", 3, 1, 0, 11, true}};
+const Form kForms[] = {
+    {"24C02", 2, 8, 1, 0}, {"24C32", 2, 32, 2, 0}, {"AT93C46", 3, 1, 0, 7}, {"AT93C86", 3, 1, 0, 11}};
 
 enum class Ends { Noticed, Right_Or_Noticed, Right, Perhaps_Wrong };
 
-constexpr std::uint64_t kForEver = 1'000'000;
-
 struct Fault {
   std::string Name;
-  std::function<board::Faults(std::uint64_t n)> Of = {};  // None: the system refuses writes.
-  Ends As;
+  std::uint64_t board::Faults::*Place = nullptr;  // None: the system refuses writes.
+  board::Faults With = {};                        // What else there is to it.
+  Ends As = Ends::Noticed;
   bool Once = true;           // Nobody looks at the answer to the first query: there it is no fault.
   std::uint64_t Refused = 0;  // So many writes in a row.
   std::size_t Partly = 0;     // Bytes of them that go out.
@@ -66,54 +60,37 @@ struct Fault {
 
 std::vector<Fault> All_Faults() {
   using board::Faults;
-  const auto doubled = [](auto n) { return Faults{.DoubleReply = n}; };
   std::vector<Fault> all{
-      {"reply dropped", [](auto n) { return Faults{.DropReply = n}; }, Ends::Noticed},
-      {"reply doubled", doubled, Ends::Right_Or_Noticed},
-      {.Name = "reply doubled, then a pause", .Of = doubled, .As = Ends::Right_Or_Noticed, .Pause = true},
-      {"reply 1.2 s late", [](auto n) { return Faults{.LateReply = n, .LateBy = 1.2}; }, Ends::Noticed,
-       false},
-      {"reply 0.4 s late", [](auto n) { return Faults{.LateReply = n, .LateBy = 0.4}; }, Ends::Right},
-      {"mute from a reply on", [](auto n) { return Faults{.MuteFrom = n}; }, Ends::Noticed, false},
-      {.Name = "dead from a command on",
-       .Of = [](auto n) { return Faults{.SilentFrom = n}; },
-       .As = Ends::Noticed,
-       .Once = false,
-       .Board = Fault::Deaf},
-      {.Name = "port gone at a command",
-       .Of = [](auto n) { return Faults{.GoneAt = n}; },
-       .As = Ends::Noticed,
-       .Once = false,
-       .Board = Fault::Out_Of_Reach},
-      {.Name = "write refused", .As = Ends::Noticed, .Refused = 1},
-      {.Name = "write refused half-way", .As = Ends::Noticed, .Refused = 1, .Partly = 2},
-      {.Name = "three writes refused", .As = Ends::Noticed, .Once = false, .Refused = 3},
-      {.Name = "writes refused from one on",
-       .As = Ends::Noticed,
-       .Once = false,
-       .Refused = kForEver,
-       .Board = Fault::Out_Of_Reach},
+      {.Name = "reply dropped", .Place = &Faults::DropReply},
+      {.Name = "reply doubled", .Place = &Faults::DoubleReply, .As = Ends::Right_Or_Noticed},
+      {.Name = "reply doubled, then a pause",
+       .Place = &Faults::DoubleReply,
+       .As = Ends::Right_Or_Noticed,
+       .Pause = true},
+      {.Name = "reply 1.2 s late", .Place = &Faults::LateReply, .With = {.LateBy = 1.2}, .Once = false},
+      {.Name = "reply 0.4 s late", .Place = &Faults::LateReply, .With = {.LateBy = 0.4}, .As = Ends::Right},
+      {.Name = "mute", .Place = &Faults::MuteFrom, .Once = false},
+      {.Name = "dead", .Place = &Faults::SilentFrom, .Once = false, .Board = Fault::Deaf},
+      {.Name = "port gone", .Place = &Faults::GoneAt, .Once = false, .Board = Fault::Out_Of_Reach},
+      {.Name = "write refused", .Refused = 1},
+      {.Name = "write refused half-way", .Refused = 1, .Partly = 2},
+      {.Name = "three writes refused", .Once = false, .Refused = 3},
+      {.Name = "all writes refused", .Once = false, .Refused = 1'000'000, .Board = Fault::Out_Of_Reach},
   };
   for (int bit = 0; bit < 8; ++bit)
-    all.push_back({"bit " + std::to_string(bit) + " turned",
-                   [bit](auto n) {
-                     return Faults{.CorruptReply = n, .CorruptMask = static_cast<std::uint8_t>(1 << bit)};
-                   },
-                   Ends::Perhaps_Wrong});
+    all.push_back({.Name = "bit " + std::to_string(bit) + " turned",
+                   .Place = &Faults::CorruptReply,
+                   .With = {.CorruptMask = static_cast<std::uint8_t>(1 << bit)},
+                   .As = Ends::Perhaps_Wrong});
   return all;
 }
 
-std::string Grid_Of(const Bytes& image) {
-  std::string text;
-  for (const std::uint8_t byte : image) text += "0x" + Hex_Text(byte, 2) + ' ';
-  return text;
-}
-
-std::string Grid_Shown() {
-  std::string text;
-  for (int row = 1; row < frmMain.MSFGrid1.Rows(); ++row)
-    for (int col = 1; col <= 16; ++col) text += std::string(frmMain.MSFGrid1.Cell(row, col)) + ' ';
-  return text;
+bool Grid_Shows(const Bytes& image) {
+  for (std::size_t at = 0; at < image.size(); ++at)
+    if (frmMain.MSFGrid1.Cell(static_cast<int>(at / 16) + 1, static_cast<int>(at % 16) + 1) !=
+        "0x" + Hex_Text(image[at], 2))
+      return false;
+  return true;
 }
 
 struct Case {
@@ -121,7 +98,7 @@ struct Case {
   Form Device;
 };
 void PrintTo(const Case& c, std::ostream* out) {
-  *out << c.Device.Chip << " " << c.Command.Firmware << " " << c.Command.Name;
+  *out << c.Device.Chip << "_" << c.Command.Firmware << "_" << c.Command.Name;
 }
 
 // One run of a transfer. Image, grid, edit panel and chip are filled, each byte other than its neighbours and
@@ -140,31 +117,28 @@ class One_Run {
     Chip = WantedChip = Bench.Chip_Contents();
     Shown = frmMain.Text_modify_hex.Text();
     if (c.Command.Block && !c.Command.Writes) WantedImage.assign(kDevice, 0xFF);
-    const std::size_t from = c.Command.Block ? 0 : kByteAt;
-    for (std::size_t at = from; at < from + (c.Command.Block ? kBlock : 1); ++at)
-      c.Command.Writes ? WantedChip[at] = Image[at] : WantedImage[at] = Chip[at];
+    for (std::size_t at = 0; at < kDevice; ++at)
+      if (Asked(at)) c.Command.Writes ? WantedChip[at] = Image[at] : WantedImage[at] = Chip[at];
     Bench.Board = &Faulty;
   }
 
-  void Go() { c.Command.Run(); }
   void Go(const Fault& fault, std::uint64_t n) {
-    if (fault.Of) Faulty.Arm(fault.Of(n));
-    if (fault.Refused)
+    board::Faults faults = fault.With;
+    if (fault.Place) {
+      faults.*fault.Place = n;
+      Faulty.Arm(faults);
+    } else {
       Bench.Takes = [&fault, n](std::size_t write) { return write < n || write >= n + fault.Refused; };
-    Bench.Partly = fault.Partly;
+      Bench.Partly = fault.Partly;
+    }
     Bench.On_Yield = [this, &fault, yields = 0]() mutable {
       Flashed = Flashed || Panel(1) == "93Cxx DATA Read on PortB error";
       if (fault.Pause && Faulty.Met() && ++yields == 4) Bench.Pass(0.1);
     };
-    Go();
+    c.Command.Run();
   }
 
-  bool Said_To_Be_Done() const {
-    const std::string& text = Panel(1);
-    if (!c.Command.Block) return text == "Finsh";
-    return text.starts_with(c.Command.Writes ? "書き込み終了。 (" : "読み出し終了。 (") &&
-           text.ends_with("sec)");
-  }
+  bool Said_To_Be_Done() const { return c.Command.Block ? Panel(1).ends_with("sec)") : Panel(1) == "Finsh"; }
   // Those at the start of the image that are the chip's.
   std::size_t Good_Bytes() const {
     std::size_t at = 0;
@@ -185,7 +159,7 @@ class One_Run {
     // Time.
     if (Bench.LongestGap > 1.001) return "a wait of " + std::to_string(Bench.LongestGap) + " s";
     const bool answers_may_come = fault.Refused == 0 && fault.Board != Fault::Out_Of_Reach;
-    const std::size_t most = !answers_may_come ? 0 : On_The_Bus() ? Most_Waits() : 1;
+    const std::size_t most = !answers_may_come ? 0 : On_The_Bus() ? c.Command.Waits[c.Device.AddressMode] : 1;
     if (Bench.SilentSeconds > most) return std::to_string(Bench.SilentSeconds) + " waits for an answer";
 
     // The socket.
@@ -193,9 +167,8 @@ class One_Run {
       return "the last commands are no power-off";
     if (fault.Board == Fault::Hears) {
       if (Bench.Programmer.Supply()) return "the socket is powered";
-      for (const char port : {'a', 'b'})
-        if (Bench.Programmer.Direction(port) != 0xFF) return "pins are driven";
-      if ((Bench.Programmer.Direction('c') | 0x80) != 0xFF) return "pins of port C are driven";
+      const auto pins = [&](char port) { return Bench.Programmer.Direction(port); };
+      if ((pins('a') & pins('b') & (pins('c') | 0x80)) != 0xFF) return "pins are driven";
     }
 
     // What is told. A window that is about to go tells nothing.
@@ -216,11 +189,12 @@ class One_Run {
     const bool read = !c.Command.Writes;
     if (done && !Data_Right() && !(read && fault.As == Ends::Perhaps_Wrong))
       return "wrong data, said to be done";
-    if (done && !Right_Elsewhere()) return "bytes that were not asked for have changed";
+    for (std::size_t at = 0; at < kDevice; ++at)
+      if (done && !Asked(at) && ImageBuffer[at] != WantedImage[at]) return "a byte not asked for has changed";
     if ((!read || (!done && !c.Command.Block)) && ImageBuffer != Image) return "the image has changed";
     if (read && c.Command.Block && !done && !Read_So_Far(fault)) return "the image is no part of the chip";
     if (Bench.Ended) return {};
-    if (Grid_Shown() != Grid_Of(read && done ? ImageBuffer : Image)) return "the grid shows something else";
+    if (!Grid_Shows(read && done ? ImageBuffer : Image)) return "the grid shows something else";
     if (!done && read && frmMain.Text_modify_hex.Text() != Shown) return "the edit panel has changed";
     return {};
   }
@@ -231,10 +205,8 @@ class One_Run {
   bool Flashed = false;  // The one message of the three-wire bus that a good end replaces.
 
  private:
+  bool Asked(std::size_t at) const { return c.Command.Block ? at < kBlock : at == kByteAt; }
   bool On_The_Bus() const { return !Bench.Commands.empty() && Bench.Commands.back().front() == 'm'; }
-  std::size_t Most_Waits() const {
-    return c.Device.Family == 2 ? c.Command.Waits24[c.Device.Long] : c.Command.Waits93;
-  }
 
   // In a three-wire transfer the chip is let go of before.
   bool Ended_With_Power_Off(bool deselected) const {
@@ -266,13 +238,6 @@ class One_Run {
     return true;
   }
 
-  bool Right_Elsewhere() const {
-    for (std::size_t at = 0; at < kDevice; ++at)
-      if (ImageBuffer[at] != WantedImage[at] && !(c.Command.Block ? at < kBlock : at == kByteAt))
-        return false;
-    return true;
-  }
-
   // Up to the byte in hand, which may be anything, and 0xFF behind it. What came before is the chip's, unless
   // the fault spoils bytes unseen.
   bool Read_So_Far(const Fault& fault) const {
@@ -286,17 +251,7 @@ class One_Run {
   std::string Shown;
 };
 
-class Fault_Sweep : public testing::TestWithParam<Case> {
- protected:
-  // "sweep: 24C02 4.90 block_read runs 5696 untold 128": one line a test, for whoever adds them up.
-  template <class... Counts>
-  static void Tell(Counts... counts) {
-    std::ostringstream line;
-    line << "sweep: " << testing::PrintToString(GetParam());
-    ((line << ' ' << counts), ...);
-    std::puts(line.str().c_str());
-  }
-};
+struct Fault_Sweep : testing::TestWithParam<Case> {};
 
 TEST_P(Fault_Sweep, EveryFaultAtEveryPlace) {
   std::size_t runs = 0, untold = 0, flashed = 0;
@@ -314,53 +269,45 @@ TEST_P(Fault_Sweep, EveryFaultAtEveryPlace) {
         violation = "nobody noticed";
       if (violation.empty() && LinkError != 0 && (no_fault || fault.As == Ends::Right))
         violation = "an error where there is none";
-      ASSERT_EQ(violation, "") << testing::PrintToString(GetParam()) << ", " << fault.Name << ", n = " << n;
+      ASSERT_EQ(violation, "") << fault.Name << ", n = " << n;
       if (LinkError == 0 && !run.Data_Right()) ++(run.Flashed ? flashed : untold);
       if (LinkError != 0) farthest = std::max(farthest, run.Good_Bytes());
     }
     EXPECT_TRUE(!reads_block || fault.As != Ends::Noticed || farthest >= kBlock - 1)
         << fault.Name << ": of what was read before, at most " << farthest << " bytes were kept";
   }
-  Tell("runs", runs, "untold", untold, "flashed", flashed);
+  // For whoever adds them up.
+  std::cout << "sweep: runs " << runs << " untold " << untold << " flashed " << flashed << '\n';
 }
 
-TEST_P(Fault_Sweep, TheWindowClosedAtEveryYield) {
+TEST_P(Fault_Sweep, AtEveryYieldTheWindowCanBeClosedAndNothingElseBeReached) {
   static const Fault kNone{.Name = "window closed", .As = Ends::Right_Or_Noticed};
-  std::size_t runs = 0;
-  for (bool met = true; met; ++runs) {
+  // What has no command of its own may stay as it is.
+  const auto harmless = [](Control* control) {
+    const auto* menu = dynamic_cast<Menu*>(control);
+    return dynamic_cast<Label*>(control) || dynamic_cast<Line*>(control) ||
+           dynamic_cast<StatusBar*>(control) || (menu && !menu->Click) ||
+           (dynamic_cast<Frame*>(control) && control != &frmMain.Frame1);
+  };
+  std::size_t closings = 0;
+  for (bool met = true; met; closings += met) {
     One_Run run(GetParam());
     std::size_t yields = 0;
     run.Bench.On_Yield = [&] {
-      if (++yields != runs + 1) return;
+      if (++yields != closings + 1) return;
+      for (Control* control : frmMain.Controls()) ASSERT_TRUE(harmless(control) || !control->Reachable());
       frmMain.Close();
       ASSERT_FALSE(run.Bench.Ended);
     };
-    run.Go();
-    met = yields > runs;
+    GetParam().Command.Run();
+    met = yields > closings;
     ASSERT_EQ(run.Bench.Ended, met);
     ASSERT_EQ(LinkError, met ? 1 : 0) << "it ends at the next look";
-    ASSERT_EQ(run.Violation(kNone), "") << testing::PrintToString(GetParam()) << ", yield " << runs + 1;
+    ASSERT_EQ(run.Violation(kNone), "") << "yield " << closings + 1;
     ASSERT_EQ(run.Bench.Stored.contains("MainLeft"), met);
   }
-  Tell("closings", runs - 1);
-}
-
-TEST_P(Fault_Sweep, NothingElseCanBeReachedAtAnyYield) {
-  // What has no command of its own may stay as it is.
-  const auto harmless = [](Control* control) {
-    return dynamic_cast<Label*>(control) || dynamic_cast<Line*>(control) ||
-           dynamic_cast<StatusBar*>(control) ||
-           (dynamic_cast<Frame*>(control) && control != &frmMain.Frame1) ||
-           (dynamic_cast<Menu*>(control) && !dynamic_cast<Menu*>(control)->Click);
-  };
-  One_Run run(GetParam());
-  std::size_t yields = 0;
-  run.Bench.On_Yield = [&] {
-    ++yields;
-    for (Control* control : frmMain.Controls()) ASSERT_TRUE(harmless(control) || !control->Reachable());
-  };
-  run.Go();
-  EXPECT_GT(yields, 40U);
+  EXPECT_GT(closings, 40U);
+  std::cout << "sweep: closings " << closings << '\n';
 }
 
 std::vector<Case> All_Cases() {
@@ -371,9 +318,9 @@ std::vector<Case> All_Cases() {
 }
 
 INSTANTIATE_TEST_SUITE_P(All, Fault_Sweep, testing::ValuesIn(All_Cases()), [](const auto& test) {
-  std::string firmware = test.param.Command.Firmware;
-  std::erase(firmware, '.');
-  return std::string(test.param.Device.Chip) + "_" + firmware + "_" + test.param.Command.Name;
+  std::string name = testing::PrintToString(test.param);
+  std::erase(name, '.');
+  return name;
 });
 
 }  // namespace
