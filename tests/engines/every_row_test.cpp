@@ -1,11 +1,9 @@
 // The same transfers for every row of the delivered catalogue, on both firmware routes: what lands in the
 // chip is the image, and what lands in the image is the chip.
-#include <fstream>
-#include <iterator>
-
 #include "catalogue_text.h"
 #include "chip_bench.h"
 #include "code_page_932.h"
+#include "temporary_folder.h"
 #include "transfer_commands.h"
 
 namespace wrenbit {
@@ -16,13 +14,11 @@ struct Case {
   std::string Firmware;
 };
 
-void PrintTo(const Case& c, std::ostream* out) { *out << c.Row[kName] << " at " << c.Firmware; }
+void PrintTo(const Case& c, std::ostream* out) { *out << c.Row[kName] << "_" << c.Firmware; }
 
 std::vector<Case> All_Cases() {
-  std::ifstream file(WRENBIT_INI, std::ios::binary);
-  const std::string text(std::istreambuf_iterator<char>(file), {});
   std::vector<Case> cases;
-  for (const Device_Row& row : Read_Catalogue(Utf8_From_Cp932(text)).Rows)
+  for (const Device_Row& row : Read_Catalogue(Utf8_From_Cp932(Content(WRENBIT_INI))).Rows)
     for (const char* firmware : {"4.90", "5.00"}) cases.push_back({row, firmware});
   return cases;
 }
@@ -30,27 +26,20 @@ std::vector<Case> All_Cases() {
 struct Every_Row : testing::TestWithParam<Case> {
   Chip_Bench bench{GetParam().Row[kName], GetParam().Firmware};
   Every_Row() { Select_Row(GetParam().Row); }
-
-  void Expect_Idle() const {
-    EXPECT_EQ(LinkError, 0);
-    EXPECT_FALSE(bench.Is_Open());
-    EXPECT_FALSE(bench.Programmer.Supply());
-    EXPECT_TRUE(frmMain.Cmd_READ_all.Reachable());
-  }
 };
 
 TEST_P(Every_Row, ABlockWrittenIsTheChipAndReadBackIsTheImage) {
   bench.Fill_Image(1);
   const Bytes written = ImageBuffer;
+  AccessSize = MemSize + 1;  // Above the chip's: it is corrected.
   Cmd_WRITE_all_Click();
-  Expect_Idle();
   ASSERT_EQ(bench.Chip_Contents(), written);
 
   bench.Fill_Chip(2);
+  AccessSize = MemSize + 1;
   Cmd_READ_all_Click();
-  Expect_Idle();
   EXPECT_EQ(ImageBuffer, bench.Chip_Contents());
-  EXPECT_TRUE(Panel(1).starts_with("読み出し終了。 (")) << Panel(1);
+  EXPECT_EQ(LinkError, 0);
 }
 
 TEST_P(Every_Row, AByteGoesToItsOwnCellAndComesFromIt) {
@@ -62,21 +51,21 @@ TEST_P(Every_Row, AByteGoesToItsOwnCellAndComesFromIt) {
     const auto at = static_cast<std::size_t>(address);
     Select_Address(address);
     Cmd_WRITE_single_Click();
-    Expect_Idle();
     EXPECT_EQ(Panel(1), "Finsh");
     expected[at] = ImageBuffer[at];
     ASSERT_EQ(bench.Chip_Contents(), expected) << "written at " << address;
 
     ImageBuffer[at] ^= 0xFF;
     Cmd_READ_single_Click();
-    Expect_Idle();
     EXPECT_EQ(ImageBuffer[at], expected[at]) << "read at " << address;
     EXPECT_EQ(Panel(3), "アドレス:" + std::to_string(address));
   }
 }
 
 INSTANTIATE_TEST_SUITE_P(Catalogue, Every_Row, testing::ValuesIn(All_Cases()), [](const auto& test) {
-  return test.param.Row[kName] + "_" + test.param.Firmware.substr(0, 1) + test.param.Firmware.substr(2);
+  std::string name = testing::PrintToString(test.param);
+  std::erase(name, '.');
+  return name;
 });
 
 }  // namespace
