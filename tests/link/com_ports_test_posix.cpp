@@ -10,19 +10,7 @@
 namespace wrenbit {
 namespace {
 
-TEST(Com_Ports, UsbAdaptersComeFirstInTheOrderOfTheirNumbers) {
-  const auto ordered = In_Com_Order({{"/dev/ttyS1", false},
-                                     {"/dev/ttyUSB10", true},
-                                     {"/dev/ttyACM2", true},
-                                     {"/dev/ttyS0", false},
-                                     {"/dev/ttyUSB2", true}});
-  std::vector<std::string> paths;
-  for (const Serial_Device& device : ordered) paths.push_back(device.Path);
-  EXPECT_EQ(paths, (std::vector<std::string>{"/dev/ttyUSB2", "/dev/ttyACM2", "/dev/ttyUSB10", "/dev/ttyS0",
-                                             "/dev/ttyS1"}));
-}
-
-TEST(Com_Ports, TheSystemTellsWhatIsThereAndWhoMadeIt) {
+TEST(Com_Ports, UsbAdaptersComeFirstInTheOrderOfTheirNumbersAndTheSystemTellsWhoMadeThem) {
   const Temporary_Folder temporary;
   const std::filesystem::path system = temporary.Path();
   const auto put = [&](const std::string& file, const std::string& line) {
@@ -40,56 +28,46 @@ TEST(Com_Ports, TheSystemTellsWhatIsThereAndWhoMadeIt) {
   put("devices/usb1/1-1/product", "UART bridge");
   put("devices/usb1/manufacturer", "Root hub");
   put("devices/usb1/1-2/idVendor", "2341");
-  add("ttyUSB0", "usb1/1-1/1-1:1.0/ttyUSB0");
-  add("ttyACM0", "usb1/1-2/1-2:1.0");
+  add("ttyUSB10", "usb1/1-1/1-1:1.0/ttyUSB10");
+  add("ttyACM2", "usb1/1-2/1-2:1.0");
+  add("ttyUSB2", "usb1/1-2/1-2:1.1");
   add("ttyS0", "pnp0/serial0");
   add("ttyS1", "pnp0/serial1");
   put("class/tty/ttyS0/type", "4");
   put("class/tty/ttyS1/type", "0");  // No chip behind it.
   add("tty1", "");
-  std::vector<std::string> told;
+  std::string told;
   for (const Serial_Device& device : In_Com_Order(Serial_Devices_Present(system)))
-    told.push_back(device.Path + (device.Usb ? " USB " : " ") + device.Maker + ":" + device.Product);
-  EXPECT_EQ(told, (std::vector<std::string>{"/dev/ttyUSB0 USB Maker:UART bridge",
-                                            "/dev/ttyACM0 USB :", "/dev/ttyS0 :"}));
+    told += device.Path + (device.Usb ? " USB " : " ") + device.Maker + ":" + device.Product + "\n";
+  EXPECT_EQ(told,
+            "/dev/ttyUSB2 USB :\n/dev/ttyACM2 USB :\n/dev/ttyUSB10 USB Maker:UART bridge\n/dev/ttyS0 :\n");
 }
 
-struct Links : testing::Test {
+TEST(Com_Ports, ALinkDecidesUnlessAKilledBoardLeftItBehind) {
   const Temporary_Folder temporary;
   const std::filesystem::path folder = temporary.Path();
   const std::vector<Serial_Device> present{
       {"/dev/ttyUSB0", true, "Maker", "Product"}, {"/dev/ttyS0"}, {"/dev/ttyS1"}};
-
-  std::optional<std::string> Path_Of_Com(int number) const {
-    const auto device = Device_Of_Com(number, folder, present);
-    return device ? std::optional(device->Path) : std::nullopt;
-  }
-
-  void SetUp() override {
-    std::filesystem::create_symlink("/dev/null", folder / "COM1");
-    std::filesystem::create_symlink("/dev/no-such-device", folder / "COM2");
-    std::filesystem::create_symlink("/etc/passwd", folder / "COM3");
-  }
-};
-
-TEST_F(Links, ALinkDecidesAlsoWhenNothingIsBehindIt) {
-  EXPECT_EQ(Path_Of_Com(1), "/dev/null");
-  EXPECT_EQ(Path_Of_Com(2), std::nullopt);
-  EXPECT_EQ(Path_Of_Com(3), std::nullopt);
+  const auto path_of_com = [&](int number) {
+    return Device_Of_Com(number, folder, present).value_or(Serial_Device{.Path = "none"}).Path;
+  };
+  std::filesystem::create_symlink("/dev/null", folder / "COM1");
+  std::filesystem::create_symlink("/dev/no-such-device", folder / "COM2");
+  std::filesystem::create_symlink("/etc/passwd", folder / "COM3");
+  EXPECT_EQ(path_of_com(1), "/dev/null");
+  EXPECT_EQ(path_of_com(2), "none");
+  EXPECT_EQ(path_of_com(3), "none");
   std::filesystem::remove(folder / "COM3");
-  EXPECT_EQ(Path_Of_Com(3), "/dev/ttyS1");
+  EXPECT_EQ(path_of_com(3), "/dev/ttyS1");
   EXPECT_EQ(Device_Of_Com(1, folder / "none", present)->Product, "Product");
-  for (const int outside : {-1, 0, 21}) EXPECT_EQ(Path_Of_Com(outside), std::nullopt);
-}
+  for (const int outside : {-1, 0, 21}) EXPECT_EQ(path_of_com(outside), "none");
 
-TEST_F(Links, ALinkLeftBehindByAKilledBoardCountsAsAbsent) {
   const std::filesystem::path lock = folder / "COM1.lock";
   Put_Content(lock, "");
-  EXPECT_EQ(Path_Of_Com(1), "/dev/ttyUSB0");
-
+  EXPECT_EQ(path_of_com(1), "/dev/ttyUSB0");
   const int board = open(lock.c_str(), O_RDWR);
   ASSERT_EQ(flock(board, LOCK_EX), 0);
-  EXPECT_EQ(Path_Of_Com(1), "/dev/null") << "the board lives";
+  EXPECT_EQ(path_of_com(1), "/dev/null") << "the board lives";
   close(board);
 }
 
