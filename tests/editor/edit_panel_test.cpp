@@ -1,4 +1,4 @@
-// Editing a byte in each of its four ways.
+// Selecting a byte in the hex grid, and editing it in each of its four ways.
 #include "edit_panel.h"
 
 #include <gtest/gtest.h>
@@ -22,12 +22,16 @@ struct Edit_Panel : testing::Test {
     MemSize = 7;
     Buffer_Init();
   }
-  // The byte at 17, selected.
+  // Gives what the status bar tells then.
+  static std::string Click(int row, int col) {
+    frmMain.MSFGrid1.Set_Row(row);
+    frmMain.MSFGrid1.Set_Col(col);
+    MSFGrid1_Click();
+    return frmMain.sbStatusBar.Panel(3);
+  }
   static void Select(std::uint8_t byte) {
     ImageBuffer[17] = byte;
-    frmMain.MSFGrid1.Set_Row(2);
-    frmMain.MSFGrid1.Set_Col(2);
-    MSFGrid1_Click();
+    EXPECT_EQ(Click(2, 2), "アドレス:17");
   }
   static void Enter(In box, const std::string& text) {
     if (box == In::Hex) frmMain.Text_modify_hex.Edit(text);
@@ -46,8 +50,38 @@ struct Edit_Panel : testing::Test {
       shown += std::to_string(bit->Value());
     return shown;
   }
-  static std::string Row_Text() { return std::string(frmMain.MSFGrid1.Cell(2, 17)); }
+  static std::string_view Row_Text() { return frmMain.MSFGrid1.Cell(2, 17); }
 };
+
+TEST_F(Edit_Panel, ASelectedByteIsShownInAllFourWays) {
+  for (const char* boxes :
+       {"FF 255 ･ 11111111", "00 0 ･ 00000000", "1F 31 ･ 00011111", "20 32   00100000", "7E 126 ~ 01111110",
+        "7F 127 ･ 01111111", "22 34 \" 00100010", "B1 177 ･ 10110001"}) {
+    const auto byte = static_cast<std::uint8_t>(std::stoi(boxes, nullptr, 16));
+    Select(byte);
+    EXPECT_EQ(Boxes(), boxes);
+    EXPECT_EQ(frmMain.ActiveControl(), &frmMain.Text_modify_hex);
+    EXPECT_EQ(frmMain.Text_modify_hex.SelLength(), 2);
+    EXPECT_EQ(ImageBuffer[17], byte) << "selecting changes nothing";
+  }
+}
+
+TEST_F(Edit_Panel, TheAsciiColumnStandsForTheLastByteAndAHeaderOrAnEmptyGridForNone) {
+  EXPECT_EQ(Click(1, 17), "アドレス:15");
+  EXPECT_EQ(frmMain.MSFGrid1.Col(), 16);
+  EXPECT_EQ(Click(0, 5), "アドレス:15");
+
+  UpdatingControls = -1;  // Code writes.
+  EXPECT_EQ(Click(3, 17), "アドレス:15");
+  EXPECT_EQ(frmMain.MSFGrid1.Col(), 16);
+  UpdatingControls = 0;
+
+  MemSize = 0;
+  Buffer_Init();
+  EXPECT_EQ(Click(1, 1), "アドレス:15");
+  for (const In box : {In::Hex, In::Dec, In::Asc, In::Bit}) Enter(box, "1");
+  EXPECT_EQ(UpdatingControls, 0);
+}
 
 TEST_F(Edit_Panel, EveryInputComesOutAsItsBoxesByteAndCell) {
   const struct {
@@ -56,40 +90,31 @@ TEST_F(Edit_Panel, EveryInputComesOutAsItsBoxesByteAndCell) {
     std::vector<const char*> Entered;  // The box's text after each key.
     std::uint8_t After;
     const char* Boxes;
-    const char* Character;  // In the row.
   } cases[] = {
-      {0xFF, In::Hex, {"4"}, 0x04, "4 4 ･ 00000100", "･"},
-      {0xFF, In::Hex, {"4", "41"}, 0x41, "41 65 A 01000001", "A"},
-      {0xFF, In::Hex, {"b", "b1"}, 0xB1, "b1 177 ｱ 10110001", "ｱ"},
-      {0x12, In::Hex, {""}, 0x00, " 0 ･ 00000000", "･"},
-      {0x12, In::Hex, {"G5"}, 0x05, "G5 5 ･ 00000101", "･"},
-      {0x12, In::Hex, {"あ2"}, 0x02, "あ2 2 ･ 00000010", "･"},
-      {0x00, In::Dec, {"3", "30"}, 0x1E, "1E 30 ･ 00011110", "･"},
-      {0x00, In::Dec, {"3", "30", "300"}, 0xFF, "FF 255 ･ 11111111", "･"},
-      {0x07, In::Dec, {""}, 0xFF, "FF 255 ･ 11111111", "･"},
-      {0x07, In::Dec, {"-"}, 0xFF, "FF 255 ･ 11111111", "･"},
-      {0x07, In::Dec, {"."}, 0xFF, "FF 255 ･ 11111111", "･"},
-      {0x07, In::Dec, {"1e2"}, 0xFF, "FF 255 ･ 11111111", "･"},
-      {0x07, In::Dec, {" 1"}, 0xFF, "FF 255 ･ 11111111", "･"},
-      {0x07, In::Dec, {"１"}, 0xFF, "FF 255 ･ 11111111", "･"},
-      {0x41, In::Dec, {"-1"}, 0x41, "41 -1 A 01000001", "A"},
-      {0x41, In::Dec, {"-.5"}, 0x00, "00 -.5 ･ 00000000", "･"},
-      {0x41, In::Dec, {"+66"}, 0x42, "42 +66 B 01000010", "B"},
-      {0x41, In::Dec, {"1.5"}, 0x02, "02 1.5 ･ 00000010", "･"},
-      {0x41, In::Dec, {"2.5"}, 0x02, "02 2.5 ･ 00000010", "･"},
-      {0x41, In::Dec, {"5."}, 0x05, "05 5. ･ 00000101", "･"},
-      {0x00, In::Asc, {"A"}, 0x41, "41 65 A 01000001", "A"},
-      {0x00, In::Asc, {" "}, 0x20, "20 32   00100000", " "},
-      {0x00, In::Asc, {","}, 0x2C, "2C 44 , 00101100", ","},
-      {0x00, In::Asc, {"ｱ"}, 0xB1, "B1 177 ｱ 10110001", "ｱ"},
-      {0x00, In::Asc, {"･"}, 0xA5, "A5 165 ･ 10100101", "･"},
-      {0x41, In::Asc, {""}, 0x41, "41 65  01000001", "A"},
-      {0x41, In::Asc, {"あ"}, 0x41, "41 65 あ 01000001", "A"},
-      {0x41, In::Asc, {"é"}, 0x41, "41 65 é 01000001", "A"},
-      {0x41, In::Asc, {"¥"}, 0x41, "41 65 ¥ 01000001", "A"},
-      {0x00, In::Bit, {"7"}, 0x80, "80 128 ･ 10000000", "･"},
-      {0xFF, In::Bit, {"7"}, 0x7F, "7F 127 \x7F 01111111", "\x7F"},
-      {0x00, In::Bit, {"0", "6"}, 0x41, "41 65 A 01000001", "A"},
+      {0xFF, In::Hex, {"4"}, 0x04, "4 4 ･ 00000100"},
+      {0xFF, In::Hex, {"4", "41"}, 0x41, "41 65 A 01000001"},
+      {0xFF, In::Hex, {"b", "b1"}, 0xB1, "b1 177 ｱ 10110001"},
+      {0x12, In::Hex, {""}, 0x00, " 0 ･ 00000000"},
+      {0x12, In::Hex, {"あ2"}, 0x02, "あ2 2 ･ 00000010"},
+      {0x00, In::Dec, {"3", "30", "300"}, 0xFF, "FF 255 ･ 11111111"},
+      {0x07, In::Dec, {""}, 0xFF, "FF 255 ･ 11111111"},
+      {0x07, In::Dec, {"1e2"}, 0xFF, "FF 255 ･ 11111111"},
+      {0x07, In::Dec, {" 1"}, 0xFF, "FF 255 ･ 11111111"},
+      {0x07, In::Dec, {"１"}, 0xFF, "FF 255 ･ 11111111"},
+      {0x41, In::Dec, {"-1"}, 0x41, "41 -1 A 01000001"},
+      {0x41, In::Dec, {"256"}, 0xFF, "FF 255 ･ 11111111"},
+      {0x41, In::Dec, {"-.5"}, 0x00, "00 -.5 ･ 00000000"},
+      {0x41, In::Dec, {"+66"}, 0x42, "42 +66 B 01000010"},
+      {0x41, In::Dec, {"1.5"}, 0x02, "02 1.5 ･ 00000010"},
+      {0x41, In::Dec, {"2.5"}, 0x02, "02 2.5 ･ 00000010"},
+      {0x00, In::Asc, {" "}, 0x20, "20 32   00100000"},
+      {0x00, In::Asc, {"ｱ"}, 0xB1, "B1 177 ｱ 10110001"},
+      {0x00, In::Asc, {"･"}, 0xA5, "A5 165 ･ 10100101"},
+      {0x41, In::Asc, {""}, 0x41, "41 65  01000001"},
+      {0x41, In::Asc, {"あ"}, 0x41, "41 65 あ 01000001"},
+      {0x41, In::Asc, {"¥"}, 0x41, "41 65 ¥ 01000001"},
+      {0xFF, In::Bit, {"7"}, 0x7F, "7F 127 \x7F 01111111"},
+      {0x00, In::Bit, {"0", "6"}, 0x41, "41 65 A 01000001"},
   };
   for (const auto& c : cases) {
     SCOPED_TRACE(c.Boxes);
@@ -98,22 +123,19 @@ TEST_F(Edit_Panel, EveryInputComesOutAsItsBoxesByteAndCell) {
     EXPECT_EQ(ImageBuffer[17], c.After);
     EXPECT_EQ(Boxes(), c.Boxes);
     EXPECT_EQ(std::stoi(std::string(frmMain.MSFGrid1.Cell(2, 2)), nullptr, 16), c.After);
-    EXPECT_EQ(Row_Text(), std::string("･") + c.Character + "･･････････････");
     EXPECT_EQ(frmMain.LblCheckSUM.Caption(), CheckSum_Text());
-    EXPECT_EQ(UpdatingControls, 0);
   }
 }
 
-TEST_F(Edit_Panel, ARefillReadsSomeCharactersOtherwise) {
+TEST_F(Edit_Panel, AnEditShowsItsWholeRowByItsOwnRule) {
+  const Bytes others{'"', ' ', ',', 0x7F, 0x1F, 0xA0, 0xDF, 0xE0};
   Select(0xFF);
-  Enter(In::Asc, ",");
-  ImageBuffer[18] = '"';
-  ImageBuffer[19] = ' ';
-  ImageBuffer[20] = 0x7F;
-  Enter(In::Hex, "2C");
-  EXPECT_EQ(Row_Text(), "･,\" \x7F･･･････････");
+  std::ranges::copy(others, ImageBuffer.begin() + 18);
   Grid_Refill();
-  EXPECT_EQ(Row_Text(), "････\x7F･･･････････");
+  EXPECT_EQ(Row_Text(), "･････\x7F･\u00A0ﾟ･･･････");
+  Select(0xFF);
+  Enter(In::Hex, "2C");
+  EXPECT_EQ(Row_Text(), "･,\" ,\x7F･\u00A0ﾟ･･･････");
 }
 
 // The arrow keys move the current cell and tell the panel nothing.
@@ -132,23 +154,15 @@ TEST_F(Edit_Panel, AnEditGoesToTheCellThatIsCurrentNow) {
 }
 
 TEST_F(Edit_Panel, TheHexBoxTakesHexDigitsAndTheBackspace) {
-  const struct {
-    std::int16_t Key, Passed;
-  } cases[] = {
-      {'0', '0'}, {'9', '9'}, {':', 0},    {'/', 0}, {'a', 'A'}, {'F', 'F'}, {'g', 0}, {'G', 0},
-      {8, 8},     {'\r', 0},  {'\x1B', 0}, {' ', 0}, {'@', 0},   {'`', 0},   {-191, 0} /* A full-width A. */};
-  for (const auto& c : cases) {
-    std::int16_t key = c.Key;
+  std::string passed;
+  const int full_width_a = -191;
+  for (const int typed : std::vector<int>{'0', '9', ':', '/', 'a', 'f', 'F', 'g', 'G', '@', '`', '\b', '\r',
+                                          '\x1B', ' ', full_width_a}) {
+    auto key = static_cast<std::int16_t>(typed);
     frmMain.Text_modify_hex.KeyPress(key);
-    EXPECT_EQ(key, c.Passed) << c.Key;
+    if (key) passed += static_cast<char>(key);
   }
-}
-
-TEST_F(Edit_Panel, AnImageOfNoSizeHasNothingToEdit) {
-  MemSize = 0;
-  Buffer_Init();
-  for (const In box : {In::Hex, In::Dec, In::Asc, In::Bit}) Enter(box, "1");
-  EXPECT_EQ(UpdatingControls, 0);
+  EXPECT_EQ(passed, "09AFF\b");
 }
 
 }  // namespace
