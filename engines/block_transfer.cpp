@@ -15,11 +15,7 @@ std::int32_t Clamp_Block() {
 }
 
 std::int32_t Percentage(std::int32_t address, std::int32_t last) {
-  const std::int64_t hundredfold = std::int64_t{address} * 100;
-  const std::int64_t whole = hundredfold / last;
-  const std::int64_t twice_rest = hundredfold % last * 2;
-  const bool up = twice_rest > last || (twice_rest == last && whole % 2 == 1);
-  return static_cast<std::int32_t>(whole + (up ? 1 : 0));
+  return static_cast<std::int32_t>((std::int64_t{address} * 200 + last) / (2 * std::int64_t{last}));
 }
 
 void Block_Progress::At(std::int32_t address) {
