@@ -277,7 +277,7 @@ TEST_P(Fault_Sweep, EveryFaultAtEveryPlace) {
         << fault.Name << ": of what was read before, at most " << farthest << " bytes were kept";
   }
   // For whoever adds them up.
-  std::cout << "sweep: runs " << runs << " untold " << untold << " flashed " << flashed << '\n';
+  std::cout << "sweep: " << testing::PrintToString(GetParam()) << " runs " << runs << " untold " << untold << " flashed " << flashed << '\n';
 }
 
 TEST_P(Fault_Sweep, AtEveryYieldTheWindowCanBeClosedAndNothingElseBeReached) {
@@ -307,7 +307,7 @@ TEST_P(Fault_Sweep, AtEveryYieldTheWindowCanBeClosedAndNothingElseBeReached) {
     ASSERT_EQ(run.Bench.Stored.contains("MainLeft"), met);
   }
   EXPECT_GT(closings, 40U);
-  std::cout << "sweep: closings " << closings << '\n';
+  std::cout << "sweep: " << testing::PrintToString(GetParam()) << " closings " << closings << '\n';
 }
 
 std::vector<Case> All_Cases() {
