@@ -1,10 +1,10 @@
 #include <signal.h>
 
-#include <QCoreApplication>
 #include <QRegularExpression>
 #include <stdexcept>
 
 #include "board_process.h"
+#include "process.h"
 
 namespace bench {
 namespace {
@@ -15,8 +15,7 @@ constexpr int kPatience = 10'000;  // Milliseconds.
 
 Board_Process::Board_Process(const QStringList& arguments) {
   process.setProcessChannelMode(QProcess::MergedChannels);
-  process.start(QCoreApplication::applicationDirPath() + "/tolvex-sim",
-                QStringList{"--com", "1"} + arguments);
+  process.start(Beside_This("tolvex-sim"), QStringList{"--com", "1"} + arguments);
   while (!process.canReadLine() && process.waitForReadyRead(kPatience)) continue;
   const QString ready = QString::fromUtf8(process.readLine());
   const auto named = QRegularExpression(R"(on COM1 = (\S+),)").match(ready);

@@ -15,8 +15,8 @@ struct Pair {
   std::function<void()> Work;
   std::string Beside;
   std::function<void()> Reference;
-  std::function<void()> Settle;  // Runs behind each, untimed.
-  std::optional<double> Goal;    // Work over Reference is to stay below it.
+  std::function<void()> Settle = {};  // Runs behind each, untimed.
+  std::optional<double> Goal = {};    // Work over Reference is to stay below it.
 };
 
 // A line for each pair: medians of several rounds through all of them, in wall time. Gives what the works

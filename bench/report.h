@@ -12,8 +12,8 @@ struct Line {
   double Measured = 0;  // Seconds or bytes, as Unit says.
   std::string Beside;   // What ran beside it; empty when there was nothing.
   double Reference = 0;
-  std::string Unit;            // "s" or "B".
-  std::optional<double> Goal;  // Measured over Reference is to stay below it.
+  std::string Unit;                 // "s" or "B".
+  std::optional<double> Goal = {};  // Measured over Reference is to stay below it.
 
   double Ratio() const { return Measured / Reference; }
   bool Missed() const { return Goal && Ratio() > *Goal; }

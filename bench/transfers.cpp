@@ -104,12 +104,8 @@ void Measure_Wire(Report& report, const Recording_Port& port, bool brief) {
     for (const Command& command : {kRead, kWrite}) {
       const auto [took, passed] = Transfer(command.Button, what, paced);
       report.Add({chip + command.Name, took.Wall, kWireTime, passed.Wire_Time(), "s", 1.02});
-      report.Add({"  the same said by bare poll",
-                  Said_Again(port.Said(), passed, what, paced),
-                  kWireTime,
-                  passed.Wire_Time(),
-                  "s",
-                  {}});
+      report.Add({"  the same said by bare poll", Said_Again(port.Said(), passed, what, paced), kWireTime,
+                  passed.Wire_Time(), "s"});
       report.Add({"  processor during it", took.Processor, "the time that it took", took.Wall, "s", 0.03});
     }
   }
@@ -123,12 +119,8 @@ void Measure_Adapters(Report& report, const Recording_Port& port, bool brief) {
     const QStringList options{"--pace", "--latency", latency};
     for (const Command& command : {kRead, kWrite}) {
       const auto [took, passed] = Transfer(command.Button, what, options);
-      report.Add({std::string(what.Chip) + command.Name + ", " + latency + " ms",
-                  took.Wall,
-                  "the same said by bare poll",
-                  Said_Again(port.Said(), passed, what, options),
-                  "s",
-                  {}});
+      report.Add({std::string(what.Chip) + command.Name + ", " + latency + " ms", took.Wall,
+                  "the same said by bare poll", Said_Again(port.Said(), passed, what, options), "s"});
     }
   }
 }

@@ -69,8 +69,7 @@ void Measure_Keystroke(Report& report, QWidget& box_view) {
                                                                .Work = type,
                                                                .Beside = "the checksum's walk",
                                                                .Reference = [] { wrenbit::CheckSum_Text(); },
-                                                               .Settle = Paint,
-                                                               .Goal = {}},
+                                                               .Settle = Paint},
                                                               {.Subject = "keystroke and its painting",
                                                                .Work =
                                                                    [&] {
@@ -78,9 +77,7 @@ void Measure_Keystroke(Report& report, QWidget& box_view) {
                                                                      Paint();
                                                                    },
                                                                .Beside = "",
-                                                               .Reference = [] {},
-                                                               .Settle = {},
-                                                               .Goal = {}},
+                                                               .Reference = [] {}},
                                                           });
   if (ImageBuffer.front() == before) throw std::runtime_error("the keystrokes changed no byte");
   report.Add({"keystroke in the hex box", works.front(), "100 µs", 100e-6, "s", 1.0});
@@ -103,8 +100,7 @@ void Measure_Refill(Report& report) {
                              .Work = change_device,
                              .Beside = "a refill",
                              .Reference = wrenbit::Grid_Refill,
-                             .Settle = Paint,
-                             .Goal = {}},
+                             .Settle = Paint},
                         });
 }
 
@@ -119,9 +115,7 @@ void Measure_Scrolling(Report& report, QWidget& grid_view) {
     Measure_Pairs(report, {{.Subject = "scrolling by a row, " + std::to_string(ImageBuffer.size()) + " bytes",
                             .Work = scroll,
                             .Beside = "the grid painted whole",
-                            .Reference = [&] { grid.viewport()->repaint(); },
-                            .Settle = {},
-                            .Goal = {}}});
+                            .Reference = [&] { grid.viewport()->repaint(); }}});
   }
 }
 
