@@ -5,9 +5,12 @@
 #include <array>
 #include <cerrno>
 #include <cstddef>
+#include <cstdint>
 #include <stdexcept>
+#include <vector>
 
 #include "bare_port.h"
+#include "conversation.h"
 #include "measure.h"
 
 namespace bench {

@@ -1,6 +1,7 @@
 // A chip and an image to measure with.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <vector>

@@ -2,8 +2,10 @@
 
 #include <QRegularExpression>
 #include <QStandardPaths>
+#include <cstdint>
 #include <iostream>
 #include <stdexcept>
+#include <string>
 #include <vector>
 
 #include "choice.h"

@@ -1,7 +1,11 @@
 #include "file_costs.h"
 
+#include <cstddef>
+#include <cstdint>
 #include <fstream>
 #include <stdexcept>
+#include <string>
+#include <vector>
 
 #include "choice.h"
 #include "image_buffer.h"

@@ -1,7 +1,15 @@
 // The program's serial port with somebody who takes notes.
 #pragma once
 
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <span>
+#include <vector>
+
+#include "com_ports.h"
 #include "conversation.h"
+#include "mscomm.h"
 #include "qt_serial.h"
 
 namespace bench {

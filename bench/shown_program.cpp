@@ -1,7 +1,7 @@
 // Wrenbit up to its window; with the words "largest FILE" it also takes in an image of the largest chip,
 // saves it there, loads it again and has it painted.
 #include "choice.h"
-#include "frm_main.h"
+#include "form_view.h"
 #include "hex_grid.h"
 #include "image_buffer.h"
 #include "intel_hex.h"

@@ -1,5 +1,6 @@
 #include "whole_programs.h"
 
+#include <optional>
 #include <stdexcept>
 
 #include "median.h"

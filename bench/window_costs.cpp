@@ -4,11 +4,13 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QScrollBar>
+#include <cstdint>
 #include <stdexcept>
+#include <string>
 #include <vector>
 
-#include "cell_selection.h"
 #include "choice.h"
+#include "form_view.h"
 #include "frm_main.h"
 #include "grid_view.h"
 #include "hex_grid.h"

@@ -11,10 +11,13 @@
 #include <array>
 #include <cerrno>
 #include <chrono>
+#include <cstddef>
+#include <cstdint>
 #include <deque>
 #include <optional>
 
 #include "board_terminal.h"
+#include "descriptor.h"
 
 namespace board {
 

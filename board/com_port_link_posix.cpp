@@ -7,6 +7,7 @@
 #include <chrono>
 #include <cstdlib>
 #include <stdexcept>
+#include <system_error>
 #include <thread>
 
 #include "com_port_link.h"
@@ -73,7 +74,8 @@ Com_Port_Lock::Com_Port_Lock(const fs::path& link) : Path(With_Suffix(link, ".lo
     File = Descriptor(open(Path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0666));
     if (!File) Throw_Errno(Path.string());
     if (!Lock_Alone(*File))
-      throw std::runtime_error("another board is on " + link.filename().string() + " (" + link.string() + ")");
+      throw std::runtime_error("another board is on " + link.filename().string() + " (" + link.string() +
+                               ")");
   } while (!Names_File(Path, *File));
 }
 

@@ -1,6 +1,8 @@
 // Cells that live in an image file: the chip's bytes from address 0 on, and nothing else.
 #pragma once
 
+#include <cstddef>
+#include <cstdint>
 #include <string>
 
 #include "cell_store.h"

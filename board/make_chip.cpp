@@ -1,6 +1,7 @@
 #include "make_chip.h"
 
 #include <algorithm>
+#include <span>
 #include <stdexcept>
 
 #include "three_wire_chip.h"

@@ -1,6 +1,7 @@
 // Chips by name, of both families.
 #pragma once
 
+#include <cstddef>
 #include <memory>
 #include <string>
 #include <string_view>

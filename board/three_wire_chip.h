@@ -1,6 +1,7 @@
 // A three-wire EEPROM at the level of its pins, in its 8-bit organisation.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 
 #include "cell_store.h"

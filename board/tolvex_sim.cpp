@@ -3,19 +3,23 @@
 #include <algorithm>
 #include <cctype>
 #include <chrono>
+#include <cstddef>
 #include <exception>
 #include <iostream>
 #include <memory>
 #include <stdexcept>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "board_terminal.h"
+#include "cell_store.h"
 #include "com_port_link.h"
 #include "image_store.h"
 #include "make_chip.h"
 #include "programmer_board.h"
 #include "typed_lines.h"
+#include "wire_schedule.h"
 
 namespace {
 

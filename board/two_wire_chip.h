@@ -1,6 +1,7 @@
 // A two-wire EEPROM at the level of its pins.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <map>
 #include <optional>

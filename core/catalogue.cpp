@@ -1,8 +1,13 @@
 #include "catalogue.h"
 
+#include <cstddef>
+#include <optional>
+#include <utility>
+
 #include "catalogue_text.h"
 #include "code_page_932.h"
 #include "settings.h"
+#include "state.h"
 #include "utf8_text.h"
 #include "whole_file.h"
 #include "windows.h"

@@ -1,6 +1,7 @@
 #include "catalogue_text.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "number_text.h"
 #include "text_field_reader.h"

@@ -1,6 +1,8 @@
 #include "device_selection.h"
 
 #include <algorithm>
+#include <cstddef>
+#include <string>
 
 #include "block_transfer.h"
 #include "catalogue_text.h"
@@ -8,6 +10,7 @@
 #include "hex_grid.h"
 #include "image_buffer.h"
 #include "settings.h"
+#include "state.h"
 
 namespace wrenbit {
 namespace {

@@ -1,5 +1,8 @@
 #include "file_commands.h"
 
+#include <cstddef>
+#include <optional>
+
 #include "app.h"
 #include "frm_main.h"
 #include "hex_grid.h"

@@ -1,7 +1,9 @@
 #include "start.h"
 
+#include <cstddef>
 #include <filesystem>
 #include <string>
+#include <system_error>
 #include <vector>
 
 #include "app.h"

@@ -6,6 +6,7 @@
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
@@ -16,10 +17,13 @@
 #include <QTimer>
 #include <algorithm>
 #include <cstdlib>
+#include <functional>
 #include <iostream>
 #include <optional>
 #include <stdexcept>
+#include <string>
 
+#include "form_view.h"
 #include "grid_view.h"
 #include "mscomm.h"
 #include "program.h"

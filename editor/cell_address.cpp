@@ -1,5 +1,7 @@
 #include "cell_address.h"
 
+#include <cstddef>
+
 #include "frm_main.h"
 #include "state.h"
 

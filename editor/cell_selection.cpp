@@ -1,5 +1,9 @@
 #include "cell_selection.h"
 
+#include <cstddef>
+#include <cstdint>
+#include <string>
+
 #include "byte_texts.h"
 #include "cell_address.h"
 #include "edit_panel.h"

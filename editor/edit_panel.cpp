@@ -1,6 +1,7 @@
 #include "edit_panel.h"
 
 #include <cmath>
+#include <cstddef>
 #include <optional>
 #include <utility>
 

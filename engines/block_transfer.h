@@ -15,8 +15,8 @@ inline constexpr std::int32_t kLargestBlock = 17;
 // chip's for good, in CmbSize and its stored setting.
 std::int32_t Clamp_Block();
 
-// address x 100 / last, rounded to the nearest whole number. last is odd, as the last address of a block is: there
-// are no ties.
+// address x 100 / last, rounded to the nearest whole number. last is odd, as the last address of a block is:
+// there are no ties.
 std::int32_t Percentage(std::int32_t address, std::int32_t last);
 
 // Writes panel 3 only when the whole number changes; it starts at 0, which is therefore never written.

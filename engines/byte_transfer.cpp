@@ -1,5 +1,7 @@
 #include "byte_transfer.h"
 
+#include <cstddef>
+
 #include "byte_texts.h"
 #include "cell_address.h"
 #include "cell_selection.h"

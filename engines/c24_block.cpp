@@ -1,5 +1,8 @@
 #include "c24_block.h"
 
+#include <cstddef>
+#include <cstdint>
+
 #include "accelerators.h"
 #include "block_transfer.h"
 #include "c24_bus.h"

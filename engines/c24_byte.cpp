@@ -1,5 +1,8 @@
 #include "c24_byte.h"
 
+#include <cstddef>
+#include <cstdint>
+
 #include "byte_transfer.h"
 #include "c24_bus.h"
 #include "c24_control.h"

@@ -1,5 +1,8 @@
 #include "c93_block.h"
 
+#include <cstddef>
+#include <cstdint>
+
 #include "accelerators.h"
 #include "block_transfer.h"
 #include "c93_bus.h"

@@ -1,5 +1,8 @@
 #include "c93_byte.h"
 
+#include <cstddef>
+#include <cstdint>
+
 #include "byte_transfer.h"
 #include "c93_bus.h"
 #include "c93_frame.h"

@@ -1,5 +1,7 @@
 #include "hex_text.h"
 
+#include <cstddef>
+
 namespace wrenbit {
 
 int Hex_Digit(std::string_view text) {

@@ -1,5 +1,7 @@
 #include "image_buffer.h"
 
+#include <cstddef>
+#include <cstdint>
 #include <numeric>
 
 #include "hex_text.h"

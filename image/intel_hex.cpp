@@ -9,6 +9,8 @@
 #include "intel_hex.h"
 
 #include <algorithm>
+#include <cstddef>
+#include <cstdint>
 
 #include "code_page_932.h"
 #include "hex_text.h"

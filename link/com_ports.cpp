@@ -1,6 +1,8 @@
 #include "com_ports.h"
 
 #include <algorithm>
+#include <cstdlib>
+#include <system_error>
 #include <tuple>
 
 namespace wrenbit {

@@ -4,6 +4,8 @@
 #include <unistd.h>
 
 #include <fstream>
+#include <system_error>
+#include <utility>
 
 #include "com_ports.h"
 

@@ -1,5 +1,6 @@
 #include "link.h"
 
+#include <cstddef>
 #include <initializer_list>
 
 #include "mscomm.h"

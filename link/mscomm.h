@@ -2,6 +2,7 @@
 // reached. The line is always 9600 baud, no parity, 8 data bits, 1 stop bit, no flow control.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <span>

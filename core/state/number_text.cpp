@@ -1,6 +1,7 @@
 #include "number_text.h"
 
 #include <charconv>
+#include <cstddef>
 #include <system_error>
 
 namespace wrenbit {

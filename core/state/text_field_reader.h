@@ -3,6 +3,7 @@
 // such.
 #pragma once
 
+#include <cstddef>
 #include <string_view>
 
 namespace wrenbit {

@@ -1,5 +1,6 @@
 #include "whole_file.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <filesystem>
 #include <fstream>

@@ -1,6 +1,7 @@
 #include "flex_grid.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace wrenbit {
 namespace {

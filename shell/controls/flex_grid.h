@@ -4,6 +4,8 @@
 // nothing but that, and looks at all of it when it shows again.
 #pragma once
 
+#include <cstddef>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>

@@ -1,5 +1,7 @@
 #include "form.h"
 
+#include <utility>
+
 namespace wrenbit {
 
 Form::Form(int client_width, int client_height, std::string first_caption)

@@ -1,6 +1,7 @@
 // A window: what lies on it, its position, its life from load to unload, and the hooks of its view.
 #pragma once
 
+#include <functional>
 #include <string>
 #include <vector>
 

@@ -2,6 +2,8 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
+#include <string>
 
 #include "common_dialog.h"
 #include "flex_grid.h"

@@ -1,6 +1,7 @@
 #include "lists_and_boxes.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "utf8_text.h"
 

@@ -2,6 +2,7 @@
 // A write from code fires the control's event inside the write, as the user's own doing does.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <functional>
 #include <string>

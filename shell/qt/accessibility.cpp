@@ -7,6 +7,7 @@
 
 #include "combo_accessible.h"
 #include "grid_accessible.h"
+#include "grid_view.h"
 
 namespace wrenbit {
 namespace {

@@ -1,5 +1,7 @@
 #include "combo_accessible.h"
 
+#include <QWindow>
+
 #include "accessibility.h"
 
 namespace wrenbit {

@@ -13,6 +13,8 @@
 #include <QStylePainter>
 #include <algorithm>
 #include <array>
+#include <cstddef>
+#include <utility>
 
 #include "accessibility.h"
 #include "drop_down.h"

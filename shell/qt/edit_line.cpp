@@ -1,7 +1,10 @@
 #include "edit_line.h"
 
+#include <QFontMetrics>
 #include <QKeyEvent>
 #include <algorithm>
+#include <cstdint>
+#include <string>
 #include <utility>
 
 #include "accessibility.h"

@@ -4,6 +4,7 @@
 
 #include <QSocketNotifier>
 #include <cerrno>
+#include <utility>
 
 #include "end_signals.h"
 

@@ -1,6 +1,10 @@
 #include "file_dialog.h"
 
+#include <QDir>
 #include <QFileDialog>
+#include <QFileInfo>
+#include <string>
+#include <utility>
 
 namespace wrenbit {
 namespace {

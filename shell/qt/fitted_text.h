@@ -2,6 +2,7 @@
 // one em. A font that is wider, or asks for higher lines, has to do with the same room.
 #pragma once
 
+#include <QFont>
 #include <QLabel>
 #include <QProxyStyle>
 #include <QStringList>

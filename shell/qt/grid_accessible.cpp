@@ -1,5 +1,6 @@
 #include "grid_accessible.h"
 
+#include <QWindow>
 #include <algorithm>
 
 #include "accessibility.h"

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QDesktopServices>
+#include <QEventLoop>
 #include <QLabel>
 #include <QMessageBox>
 #include <QThread>

@@ -3,6 +3,7 @@
 
 #include <QElapsedTimer>
 #include <memory>
+#include <string>
 
 #include "help_window.h"
 #include "platform.h"

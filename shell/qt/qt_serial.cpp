@@ -2,6 +2,7 @@
 
 #include <QAbstractEventDispatcher>
 #include <QFileInfo>
+#include <utility>
 
 #include "serial_handle.h"
 

@@ -2,8 +2,14 @@
 #pragma once
 
 #include <QSerialPort>
+#include <cstddef>
+#include <cstdint>
 #include <filesystem>
+#include <optional>
+#include <span>
+#include <vector>
 
+#include "com_ports.h"
 #include "mscomm.h"
 
 namespace wrenbit {

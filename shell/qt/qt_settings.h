@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QSettings>
+#include <string>
 
 #include "settings.h"
 

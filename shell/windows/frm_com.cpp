@@ -1,5 +1,7 @@
 #include "frm_com.h"
 
+#include <optional>
+
 #include "app.h"
 #include "com_ports.h"
 #include "mscomm.h"

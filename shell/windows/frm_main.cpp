@@ -12,7 +12,6 @@
 #include "number_text.h"
 #include "platform.h"
 #include "settings.h"
-#include "state.h"
 #include "transfer_commands.h"
 #include "window_events.h"
 #include "windows.h"

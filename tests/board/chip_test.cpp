@@ -2,11 +2,21 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <utility>
 
+#include "cell_store.h"
+#include "chip_socket.h"
 #include "make_chip.h"
 #include "programmer_board.h"
 #include "test_pc.h"
 #include "three_wire_chip.h"
+#include "three_wire_parts.h"
+#include "two_wire_parts.h"
 
 namespace {
 

@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <vector>
+
 #include "programmer_board.h"
 #include "test_pc.h"
 

@@ -6,7 +6,11 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <cstdlib>
+#include <filesystem>
+#include <string>
 #include <utility>
+#include <vector>
 
 #include "descriptor.h"
 #include "temporary_folder.h"

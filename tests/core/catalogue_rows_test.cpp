@@ -2,11 +2,14 @@
 // sheets.
 #include <gtest/gtest.h>
 
+#include <cstddef>
 #include <set>
+#include <string>
 
 #include "catalogue_text.h"
 #include "code_page_932.h"
 #include "make_chip.h"
+#include "state.h"
 #include "temporary_folder.h"
 
 namespace wrenbit {

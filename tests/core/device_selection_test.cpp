@@ -3,8 +3,12 @@
 
 #include <gtest/gtest.h>
 
+#include <string>
+#include <vector>
+
 #include "catalogue_text.h"
 #include "frm_main.h"
+#include "state.h"
 #include "test_bench.h"
 
 namespace wrenbit {

@@ -3,6 +3,11 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cstddef>
+#include <string_view>
+#include <vector>
+
 #include "cell_selection.h"
 #include "frm_main.h"
 #include "hex_grid.h"

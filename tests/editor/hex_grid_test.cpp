@@ -3,6 +3,10 @@
 
 #include <gtest/gtest.h>
 
+#include <cstddef>
+#include <cstdint>
+#include <string>
+
 #include "frm_main.h"
 #include "image_buffer.h"
 #include "state.h"

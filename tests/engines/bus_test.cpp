@@ -1,7 +1,12 @@
 // The steps of both buses, and supply and lines up and down: bytes on the wire, what is read back and told.
+#include <cstddef>
+#include <string>
+#include <utility>
+
 #include "c24_bus.h"
 #include "c93_bus.h"
 #include "chip_bench.h"
+#include "state.h"
 
 namespace wrenbit {
 namespace {

@@ -1,8 +1,15 @@
 // The same transfers for every row of the delivered catalogue, on both firmware routes: what lands in the
 // chip is the image, and what lands in the image is the chip.
+#include <cstddef>
+#include <cstdint>
+#include <ostream>
+#include <string>
+#include <vector>
+
 #include "catalogue_text.h"
 #include "chip_bench.h"
 #include "code_page_932.h"
+#include "state.h"
 #include "temporary_folder.h"
 #include "transfer_commands.h"
 

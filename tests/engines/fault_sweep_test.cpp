@@ -1,11 +1,18 @@
 // Every transfer, with every fault, at every place where it can strike: n = 1, 2, 3 ... until a run meets no
 // fault any more. What must hold in each of these runs is the list in Violation.
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
 #include <iostream>
+#include <string>
+#include <vector>
 
 #include "chip_bench.h"
 #include "faulty_board.h"
+#include "frm_main.h"
 #include "hex_grid.h"
 #include "hex_text.h"
+#include "state.h"
 #include "transfer_commands.h"
 
 namespace wrenbit {
@@ -277,7 +284,8 @@ TEST_P(Fault_Sweep, EveryFaultAtEveryPlace) {
         << fault.Name << ": of what was read before, at most " << farthest << " bytes were kept";
   }
   // For whoever adds them up.
-  std::cout << "sweep: " << testing::PrintToString(GetParam()) << " runs " << runs << " untold " << untold << " flashed " << flashed << '\n';
+  std::cout << "sweep: " << testing::PrintToString(GetParam()) << " runs " << runs << " untold " << untold
+            << " flashed " << flashed << '\n';
 }
 
 TEST_P(Fault_Sweep, AtEveryYieldTheWindowCanBeClosedAndNothingElseBeReached) {

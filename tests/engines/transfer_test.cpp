@@ -1,11 +1,19 @@
 // What the transfers of both families leave behind beside the chip's bytes: panels, cell and edit panel. And
 // those that fail for other reasons than the ones of the sweep: no chip, lines that stick, rows that are
 // wrong.
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <memory>
 #include <optional>
+#include <string>
 #include <utility>
+#include <vector>
 
 #include "chip_bench.h"
 #include "faulty_board.h"
+#include "frm_main.h"
+#include "state.h"
 #include "transfer_commands.h"
 
 namespace wrenbit {

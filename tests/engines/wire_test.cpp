@@ -1,7 +1,12 @@
 // What the transfers put on the wire, byte for byte.
+#include <cstddef>
+#include <cstdint>
+#include <string>
 #include <string_view>
+#include <vector>
 
 #include "chip_bench.h"
+#include "state.h"
 #include "transfer_commands.h"
 
 namespace wrenbit {

@@ -1,7 +1,11 @@
 // Our Intel HEX against that of other people's tools, in both directions.
 #include <gtest/gtest.h>
 
+#include <cstdint>
+#include <cstdlib>
+#include <ostream>
 #include <random>
+#include <string>
 
 #include "intel_hex.h"
 #include "state.h"

@@ -3,8 +3,14 @@
 
 #include <gtest/gtest.h>
 
+#include <cstddef>
+#include <functional>
+#include <string>
+#include <vector>
+
 #include "frm_main.h"
 #include "link.h"
+#include "mscomm.h"
 #include "state.h"
 #include "test_bench.h"
 

@@ -3,9 +3,12 @@
 
 #include <gtest/gtest.h>
 
+#include <cstddef>
 #include <functional>
 #include <utility>
+#include <vector>
 
+#include "mscomm.h"
 #include "state.h"
 #include "test_bench.h"
 

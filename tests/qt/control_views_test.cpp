@@ -15,12 +15,15 @@
 #include <QScreen>
 #include <QTest>
 #include <QTimer>
+#include <cstdint>
+#include <functional>
 #include <memory>
+#include <string>
 
 #include "form_view.h"
 #include "lists_and_boxes.h"
-#include "status_bar.h"
 #include "platform.h"
+#include "status_bar.h"
 
 namespace wrenbit {
 namespace {

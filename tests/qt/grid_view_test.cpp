@@ -6,6 +6,9 @@
 #include <QScreen>
 #include <QScrollBar>
 #include <QTest>
+#include <functional>
+#include <memory>
+#include <string>
 
 #include "form.h"
 #include "form_view.h"

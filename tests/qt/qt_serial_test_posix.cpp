@@ -6,8 +6,14 @@
 
 #include <QDeadlineTimer>
 #include <QTimer>
+#include <algorithm>
+#include <cstdint>
 #include <ctime>
+#include <filesystem>
+#include <string>
+#include <vector>
 
+#include "mscomm.h"
 #include "platform.h"
 #include "qt_serial.h"
 #include "temporary_folder.h"

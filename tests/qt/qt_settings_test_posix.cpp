@@ -1,6 +1,8 @@
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <map>
+#include <string>
 
 #include "number_text.h"
 #include "plain_user_posix.h"

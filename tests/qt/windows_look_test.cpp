@@ -7,13 +7,15 @@
 #include <QFontDatabase>
 #include <QImage>
 #include <QPainter>
+#include <algorithm>
+#include <string>
+#include <vector>
 
 #include "app.h"
 #include "fitted_text.h"
 #include "form_view.h"
 #include "look.h"
 #include "pictures.h"
-#include "platform.h"
 #include "windows.h"
 
 namespace wrenbit {

@@ -7,6 +7,10 @@
 #include <algorithm>
 #include <csignal>
 #include <cstring>
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <utility>
 
 #include "plain_user_posix.h"
 #include "temporary_folder.h"

@@ -4,6 +4,7 @@
 
 #include "cell_address.h"
 #include "handshake.h"
+#include "make_chip.h"
 
 namespace wrenbit {
 

@@ -3,12 +3,13 @@
 
 #include <gtest/gtest.h>
 
+#include <cstddef>
+#include <cstdint>
 #include <memory>
 #include <string>
 
 #include "cell_store.h"
 #include "frm_main.h"
-#include "make_chip.h"
 #include "programmer_board.h"
 #include "state.h"
 #include "test_bench.h"

@@ -2,13 +2,17 @@
 // only when told, settings in memory, and a serial port with a 9600-baud wire in that time, to any board.
 #pragma once
 
+#include <cstddef>
+#include <cstdint>
 #include <deque>
 #include <functional>
 #include <map>
-#include <memory>
+#include <optional>
+#include <span>
 #include <string>
 #include <vector>
 
+#include "com_ports.h"
 #include "mscomm.h"
 #include "platform.h"
 #include "settings.h"

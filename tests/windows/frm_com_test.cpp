@@ -3,7 +3,11 @@
 
 #include <gtest/gtest.h>
 
+#include <vector>
+
 #include "chip_bench.h"
+#include "com_ports.h"
+#include "mscomm.h"
 #include "transfer_commands.h"
 
 namespace wrenbit {

@@ -3,10 +3,17 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
+#include <memory>
+#include <utility>
+#include <vector>
+
 #include "app.h"
 #include "chip_bench.h"
 #include "frm_about.h"
 #include "frm_com.h"
+#include "platform.h"
+#include "state.h"
 
 namespace wrenbit {
 namespace {
