@@ -29,6 +29,8 @@ class Programmer_Board : public Wire_End {
   void Identify_As(std::string_view text) { Identification.assign(text.begin(), text.end()); }
 
   void Insert(std::unique_ptr<Chip> chip) { Contacts.Insert(std::move(chip)); }
+
+  // The probes of whoever looks at the board from outside.
   Chip_Socket& Socket() { return Contacts; }
   bool Supply() const { return Contacts.Level(Line::kSupply); }
 

@@ -35,9 +35,9 @@ class Wire_Schedule {
   bool Awake(Clock::time_point now) const;
 
  private:
-  std::chrono::nanoseconds byte_time;
-  std::chrono::nanoseconds latency;
-  Clock::time_point in_free, out_free;
+  std::chrono::nanoseconds ByteTime;
+  std::chrono::nanoseconds Latency;
+  Clock::time_point InFree, OutFree;
 };
 
 }  // namespace board
