@@ -56,7 +56,7 @@ void Cmd_READ_all_Click() {
   frmMain.sbStatusBar.Set_Panel(1, "読み出し中.....");
   Image_Create();
   Run_Engine(C24_AllRead, C93_AllRead);
-  if (LinkError == 0) Grid_Refill();
+  LinkError == 0 ? Grid_Refill() : Grid_Out_Of_Date();
   Command_Unlock();
 }
 

@@ -23,6 +23,8 @@ namespace {
 constexpr const char* kHeader =
     "Adr.|^0x00|^0x01|^0x02|^0x03|^0x04|^0x05|^0x06|^0x07|^0x08|^0x09|^0x0A|^0x0B|^0x0C|^0x0D|^0x0E|^0x0F|"
     "ASCII";
+constexpr const char* kNotTheImage =
+    "表は前の内容です。バッファは読めたところまでと FF です。もう一度読むか、ファイルをロードしてください。";
 constexpr const char* kPleaseWait = "しばらくお待ちください。";
 
 void Grid_Format() {
@@ -89,6 +91,11 @@ void Fill_Rows() {
   }
 }
 
+void Set_Grid_OutOfDate(const char* why) {
+  frmMain.MSFGrid1.Set_OutOfDate(why);
+  frmMain.LblCheckSUM.Set_OutOfDate(why);
+}
+
 }  // namespace
 
 void Grid_Refill() {
@@ -102,12 +109,15 @@ void Grid_Refill() {
   frmMain.MSFGrid1.Set_Col(kFirstByteCol);
   frmMain.MSFGrid1.Set_Row(1);
   Grid_Format();
+  Set_Grid_OutOfDate("");
   frmMain.LblCheckSUM.Set_Caption(CheckSum_Text());
   MSFGrid1_Click();
   frmMain.sbStatusBar.Set_Panel(1, message);
   frmMain.MSFGrid1.Set_Visible(true);
   frmMain.Set_MousePointer(Pointer::Default);
 }
+
+void Grid_Out_Of_Date() { Set_Grid_OutOfDate(kNotTheImage); }
 
 void Buffer_Init() {
   Image_Create();

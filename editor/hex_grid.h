@@ -7,6 +7,10 @@ namespace wrenbit {
 // far shows before the first row changes. An image of no size gives an empty grid, with nothing selected.
 void Grid_Refill();
 
+// The grid and the checksum label turn grey: they show what the image held before a read that failed. Until
+// the next refill.
+void Grid_Out_Of_Date();
+
 // A blank image of the selected device's size, shown in the grid.
 void Buffer_Init();
 

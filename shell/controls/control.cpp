@@ -28,6 +28,7 @@ bool Control::Set_Focus() {
 }
 
 void Control::Reset() {
+  out_of_date.clear();
   enabled = true;
   Tell();
 }

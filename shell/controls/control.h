@@ -44,6 +44,11 @@ class Control {
   bool Visible() const { return visible; }
   void Set_Visible(bool value);
 
+  // Why what the control shows is not so any more; empty while it is. The views of labels and of the grid
+  // turn grey.
+  const std::string& OutOfDate() const { return out_of_date; }
+  void Set_OutOfDate(std::string why) { Store(out_of_date, std::move(why)); }
+
   // True when the control and all that hold it are enabled: only then can the user reach it.
   bool Reachable() const;
 
@@ -51,8 +56,8 @@ class Control {
   // reachable.
   bool Set_Focus();
 
-  // Enabled, and with the texts and values with which the control was made: what unloading a form does to
-  // what lies on it. Leaves where it lies, whether it shows and what a screen reader calls it.
+  // Enabled, up to date, and with the texts and values with which the control was made: what unloading a form
+  // does to what lies on it. Leaves where it lies, whether it shows and what a screen reader calls it.
   virtual void Reset();
 
   Form& Window() const { return *form; }
@@ -85,6 +90,7 @@ class Control {
  private:
   Control* container = nullptr;
   Form* form = nullptr;
+  std::string out_of_date;
   bool enabled = true;
   bool visible = true;
 };

@@ -67,7 +67,10 @@ QWidget* Label_View(Label& label, QWidget* holder) {
     colours.setColor(QPalette::WindowText, QColor(*label.ForeColor));
     view->setPalette(colours);
   }
-  return Placed(view, label, [view, &label] { view->setText(Text_Of(label.Caption())); });
+  return Placed(view, label, [view, &label] {
+    view->setText(Text_Of(label.Caption()));
+    if (!label.OutOfDate().empty()) view->setEnabled(false);
+  });
 }
 
 // A thin line around the group, with the caption standing in it. The style's own group box would lay the line

@@ -39,7 +39,15 @@ void Grid_View::Follow() {
     row_in_sight = -1;  // A refill runs through all rows.
   else if (grid.Row() != row_in_sight)
     Show_Current_Row();
+  if (const QString why = Text_Of(grid.OutOfDate()); why != toolTip()) {
+    setToolTip(why);
+    setAccessibleDescription(why);
+  }
   viewport()->update();
+}
+
+QPalette::ColorGroup Grid_View::Colours() const {
+  return isEnabled() && grid.OutOfDate().empty() ? QPalette::Active : QPalette::Disabled;
 }
 
 void Grid_View::Show_Current_Row() {
@@ -67,8 +75,7 @@ QRect Grid_View::Cell_Rect(int row, int col) const {
 }
 
 void Grid_View::Paint_Cell(QPainter& painter, int row, int col) const {
-  const QPalette::ColorGroup group = isEnabled() ? QPalette::Active : QPalette::Disabled;
-  const auto colour = [&](QPalette::ColorRole role) { return palette().color(group, role); };
+  const auto colour = [&](QPalette::ColorRole role) { return palette().color(Colours(), role); };
   const QRect cell = Cell_Rect(row, col);
   const bool fixed = row == 0 || col == 0;
   const bool current = !fixed && row == grid.Row() && col == grid.Col();
@@ -87,8 +94,7 @@ void Grid_View::Paint_Cell(QPainter& painter, int row, int col) const {
 void Grid_View::paintEvent(QPaintEvent* event) {
   QPainter painter(viewport());
   painter.setFont(font());
-  painter.fillRect(event->rect(),
-                   palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, QPalette::Base));
+  painter.fillRect(event->rect(), palette().color(Colours(), QPalette::Base));
   const auto paint_if_asked = [&](int row, int col) {
     if (event->region().intersects(Cell_Rect(row, col))) Paint_Cell(painter, row, col);
   };

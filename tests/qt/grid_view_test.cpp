@@ -79,6 +79,16 @@ TEST_F(GridView, ClicksAndKeysMoveTheCurrentCellInSightButNotIntoTheHeaders) {
   }
 }
 
+TEST_F(GridView, AGridThatIsNotTheImageIsGreyAndSaysWhy) {
+  const QImage good = view.grab().toImage();
+  grid.Set_OutOfDate("前の内容です。");
+  EXPECT_NE(view.grab().toImage(), good);
+  EXPECT_EQ(view.toolTip(), "前の内容です。");
+  EXPECT_EQ(QAccessible::queryAccessibleInterface(&view)->text(QAccessible::Description), view.toolTip());
+  grid.Set_OutOfDate("");
+  EXPECT_EQ(view.grab().toImage(), good);
+}
+
 // Scrolling moves what is on the screen and paints only the rest.
 TEST_F(GridView, AScrolledGridLooksLikeAPaintedOne) {
   for (int row = 1; row < kRows; ++row) {
