@@ -5,6 +5,7 @@
 #include <QJsonObject>
 #include <array>
 #include <cmath>
+#include <cstddef>
 #include <cstdio>
 #include <iostream>
 #include <utility>

@@ -12,7 +12,7 @@ namespace board {
 // which tells a link that was left behind from one in use.
 class Com_Port_Lock {
  public:
-  // Throws std::runtime_error when another board holds `link`, or somebody else made it.
+  // Throws std::runtime_error when another board holds `link` for half a second, or somebody else made it.
   explicit Com_Port_Lock(const std::filesystem::path& link);
   ~Com_Port_Lock();
   Com_Port_Lock(const Com_Port_Lock&) = delete;

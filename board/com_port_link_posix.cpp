@@ -54,10 +54,10 @@ bool Names_File(const fs::path& path, int file) {
 }
 
 // True when the lock is ours. A program that looks whether a board lives shares the lock for a moment.
-bool Lock_Alone(int file) {
+bool Lock_Alone(int file, const fs::path& path) {
   constexpr int kTries = 50;
   for (int tries = 1; flock(file, LOCK_EX | LOCK_NB) != 0; ++tries) {
-    if (errno != EWOULDBLOCK) Throw_Errno("flock");
+    if (errno != EWOULDBLOCK) Throw_Errno(path.string());
     if (tries == kTries) return false;
     std::this_thread::sleep_for(std::chrono::milliseconds(10));
   }
@@ -73,7 +73,7 @@ Com_Port_Lock::Com_Port_Lock(const fs::path& link) : Path(With_Suffix(link, ".lo
   do {
     File = Descriptor(open(Path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0666));
     if (!File) Throw_Errno(Path.string());
-    if (!Lock_Alone(*File))
+    if (!Lock_Alone(*File, Path))
       throw std::runtime_error("another board is on " + link.filename().string() + " (" + link.string() +
                                ")");
   } while (!Names_File(Path, *File));

@@ -18,7 +18,7 @@ struct Two_Wire_Part {
   double WriteCycle;            // Seconds at most; the model always takes them all.
 };
 
-// In order of size, the makers' plain numbers first.
+// The plain numbers first, then the makers' own, each in order of size.
 std::span<const Two_Wire_Part> Two_Wire_Parts();
 
 }  // namespace board

@@ -25,16 +25,17 @@ void Prepare_Dialog(const char* folder_key, const char* filter) {
   frmMain.dlgCommonDialog.DefaultExt = "HEX";
 }
 
+// The path up to, not including, the character before the first place where the title stands in it.
+std::string Folder_Of(const std::string& path, const std::string& title) {
+  const std::size_t at = path.find(title);
+  return at == path.npos || at == 0 ? std::string() : path.substr(0, at - 1);
+}
+
 void Remember_Folder(const char* folder_key) {
   SaveSetting(folder_key, Folder_Of(frmMain.dlgCommonDialog.FileName, frmMain.dlgCommonDialog.FileTitle));
 }
 
 }  // namespace
-
-std::string Folder_Of(const std::string& path, const std::string& title) {
-  const std::size_t at = path.find(title);
-  return at == path.npos || at == 0 ? std::string() : path.substr(0, at - 1);
-}
 
 void mnuFileOpen_Click() {
   constexpr const char* kNotOpened = "ファイルをオープンできませんでした。";

@@ -1,8 +1,6 @@
 // The two file commands: Intel HEX in and out, through the file dialogs.
 #pragma once
 
-#include <string>
-
 namespace wrenbit {
 
 // Both are refused, with the reason in panel 1, for a device without a usable size.
@@ -13,8 +11,5 @@ void mnuFileOpen_Click();
 
 // Saves the whole image. A file that is there stands until the new one is whole.
 void mnuFileSaveAs_Click();
-
-// The path up to, not including, the character before the first place where the title stands in it.
-std::string Folder_Of(const std::string& path, const std::string& title);
 
 }  // namespace wrenbit

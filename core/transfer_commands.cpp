@@ -1,5 +1,7 @@
 #include "transfer_commands.h"
 
+#include <initializer_list>
+
 #include "c24_block.h"
 #include "c24_byte.h"
 #include "c93_block.h"

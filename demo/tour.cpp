@@ -16,6 +16,7 @@
 #include <QTest>
 #include <QTimer>
 #include <algorithm>
+#include <cstddef>
 #include <cstdlib>
 #include <functional>
 #include <iostream>

@@ -7,9 +7,8 @@
 
 namespace wrenbit {
 
-// Block sizes in CmbSize, as powers of two: 16 bytes is its first entry.
+// The first entry of CmbSize, as a power of two: 16 bytes.
 inline constexpr std::int32_t kSmallestBlock = 4;
-inline constexpr std::int32_t kLargestBlock = 17;
 
 // The block's last chip address: 2^min(MemSize, AccessSize) - 1. A block size above the chip's is set to the
 // chip's for good, in CmbSize and its stored setting.

@@ -22,13 +22,15 @@ void Dir_A(std::uint8_t value) { Link_SetDirA(PortMirror.DirA = value); }
 void Read_A() { PortMirror.InA = Link_ReadPortA(); }
 
 // Of ports B and C what is held low is watched too.
-constexpr Port_Values kWatched{.A = kLines, .B = kSupply | 0x1C, .C = kHeldHigh | 0x08};
-constexpr Power_Sequence kOn{.Out = {kLines, kSupply, kHeldHigh},
+constexpr Port_Values kWatched{.A = kLines, .B = kSupplyPin | 0x1C, .C = kHeldHighPin | 0x08};
+constexpr Power_Sequence kOn{.Out = {kLines, kSupplyPin, kHeldHighPin},
                              .Dir = {0xF8, 0xA3, 0x77},
                              .Watched = kWatched,
-                             .Expected = {kLines, kSupply, kHeldHigh}};
-constexpr Power_Sequence kOff{
-    .Out = {0, 0, kHeldHigh}, .Dir = {0xFF, 0xFF, 0x7F}, .Watched = kWatched, .Expected = {0, 0, kHeldHigh}};
+                             .Expected = {kLines, kSupplyPin, kHeldHighPin}};
+constexpr Power_Sequence kOff{.Out = {0, 0, kHeldHighPin},
+                              .Dir = {0xFF, 0xFF, 0x7F},
+                              .Watched = kWatched,
+                              .Expected = {0, 0, kHeldHighPin}};
 
 // Drives the lines and looks whether they followed.
 bool Step(std::uint8_t levels, const char* error) {

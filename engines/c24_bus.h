@@ -11,8 +11,9 @@
 // From firmware 5.0 on a bit is one command of the board; below, it is a sequence of port commands. Start,
 // stop and power are port commands at every version, and read back what they drove.
 //
-// Each failure puts its own text into panel 1, but for a bit that is one command of the board. No operation
-// stops the transfer around it: that looks at LinkError at places of its own.
+// What reads back or reads in puts a text of its own into panel 1 when it fails, but for a bit that is one
+// command of the board. No operation stops the transfer around it: that looks at LinkError at places of its
+// own.
 #pragma once
 
 #include <cstdint>

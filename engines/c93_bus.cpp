@@ -12,21 +12,21 @@ namespace {
 constexpr std::uint8_t kDo = 0x04;
 constexpr std::uint8_t kDi = 0x08;
 constexpr std::uint8_t kSk = 0x10;
-constexpr std::uint8_t kDriven = kSupply | kSk | kDi;
+constexpr std::uint8_t kDriven = kSupplyPin | kSk | kDi;
 // Port C.
 constexpr std::uint8_t kCs = 0x08;
 
-constexpr Power_Sequence kOn{.Out = {0, kSupply, kHeldHigh},
+constexpr Power_Sequence kOn{.Out = {0, kSupplyPin, kHeldHighPin},
                              .Dir = {0xF9, 0xA7, 0x77},
-                             .Watched = {0x06, kDriven, kHeldHigh | kCs},
-                             .Expected = {0, kSupply, kHeldHigh}};
-constexpr Power_Sequence kOff{.Out = {0, 0, kHeldHigh},
+                             .Watched = {0x06, kDriven, kHeldHighPin | kCs},
+                             .Expected = {0, kSupplyPin, kHeldHighPin}};
+constexpr Power_Sequence kOff{.Out = {0, 0, kHeldHighPin},
                               .Dir = {0xFF, 0xFF, 0x7F},
-                              .Watched = {0x06, kDriven | kDo, kHeldHigh | kCs},
-                              .Expected = {0, 0, kHeldHigh}};
+                              .Watched = {0x06, kDriven | kDo, kHeldHighPin | kCs},
+                              .Expected = {0, 0, kHeldHighPin}};
 
-void Write_B(std::uint8_t lines) { Link_WritePortB(PortMirror.OutB = kSupply | lines); }
-void Write_C(std::uint8_t lines) { Link_WritePortC(PortMirror.OutC = kHeldHigh | lines); }
+void Write_B(std::uint8_t lines) { Link_WritePortB(PortMirror.OutB = kSupplyPin | lines); }
+void Write_C(std::uint8_t lines) { Link_WritePortC(PortMirror.OutC = kHeldHighPin | lines); }
 
 void Clock_Out(std::uint8_t di) {
   Write_B(di);
@@ -48,7 +48,7 @@ void C93_Bit0() { Clock_Out(0); }
 std::int32_t C93_DATA() {
   Write_B(kSk);
   PortMirror.InB = Link_ReadPortB();
-  if ((PortMirror.InB & kDriven) != (kSupply | kSk) || LinkError) {
+  if ((PortMirror.InB & kDriven) != (kSupplyPin | kSk) || LinkError) {
     frmMain.sbStatusBar.Set_Panel(1, "93Cxx DATA Read on PortB error");
     return 0;
   }

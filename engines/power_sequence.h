@@ -7,8 +7,8 @@
 namespace wrenbit {
 
 // The pins that have the same role for both families.
-inline constexpr std::uint8_t kSupply = 0x40;    // Port B.
-inline constexpr std::uint8_t kHeldHigh = 0x80;  // Port C.
+inline constexpr std::uint8_t kSupplyPin = 0x40;    // Port B.
+inline constexpr std::uint8_t kHeldHighPin = 0x80;  // Port C.
 
 struct Port_Values {
   std::uint8_t A, B, C;

@@ -1,7 +1,11 @@
 // Any bytes as wrenbit.ini: read as at the start, then the first devices selected and their transfers asked
 // for, on a port that is not there.
 #include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <string>
 #include <string_view>
+#include <utility>
 
 #include "catalogue_text.h"
 #include "code_page_932.h"

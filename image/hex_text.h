@@ -32,10 +32,6 @@ constexpr std::int32_t Hex_ToLong(std::string_view text) {
   return static_cast<std::int32_t>(value & 0xFFFF);
 }
 
-// Appends the checksum of an Intel HEX record, which makes the sum of all its bytes 0 modulo 256. The line
-// holds the start character and the record up to and including its data.
-void Hex_LineSum(std::string& line);
-
 // The last so many digits, upper case, zeros in front.
 std::string Hex_Text(std::uint32_t value, int digits);
 

@@ -50,6 +50,14 @@ std::uint32_t Number(std::string_view line, std::size_t position, std::size_t di
 
 }  // namespace
 
+void Hex_LineSum(std::string& line) {
+  const std::string_view text = line;
+  std::uint32_t sum = 0;
+  for (std::size_t at = 1; at < text.size(); at += 2)
+    sum += static_cast<std::uint32_t>(Hex_ToLong(text.substr(at, 2)));
+  Append_Hex(line, ~sum + 1, 2);
+}
+
 std::string Intel_Hex_Text() {
   std::string text;
   text.reserve((ImageBuffer.size() / kRecordBytes + ImageBuffer.size() / kBankBytes + 1) * kLongestLine);

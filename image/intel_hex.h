@@ -9,6 +9,10 @@
 
 namespace wrenbit {
 
+// Appends the checksum of a record, which makes the sum of all its bytes 0 modulo 256. The line holds the
+// start character and the record up to and including its data.
+void Hex_LineSum(std::string& line);
+
 // The file: all of the image, whose size is a multiple of 16, in records of sixteen bytes, ascending, then
 // the end record. Lines end in CR LF.
 std::string Intel_Hex_Text();

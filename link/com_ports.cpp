@@ -1,6 +1,7 @@
 #include "com_ports.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <cstdlib>
 #include <system_error>
 #include <tuple>

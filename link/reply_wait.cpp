@@ -26,7 +26,7 @@ void Await_Bytes(std::size_t count) {
 void Await_Rest(std::size_t count) {
   const double limit = Timer() + kReplyLimit;
   double heard = Timer();
-  for (std::size_t seen = 0; seen < count && !MSComm1.Lost();) {
+  for (std::size_t seen = 0; seen < count;) {
     const double left = std::min(heard + kPause, limit) - Timer();
     if (left <= 0) return;
     ThePlatform->Await_Event(left);

@@ -1,6 +1,7 @@
 #include "frm_com.h"
 
 #include <optional>
+#include <string>
 
 #include "app.h"
 #include "com_ports.h"

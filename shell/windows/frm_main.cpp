@@ -1,9 +1,9 @@
 #include "frm_main.h"
 
 #include <cstdio>
+#include <string>
 
 #include "app.h"
-#include "block_transfer.h"
 #include "cell_selection.h"
 #include "device_selection.h"
 #include "edit_panel.h"
@@ -20,6 +20,7 @@ namespace wrenbit {
 namespace {
 
 constexpr double kFirstPosition = 1000;  // Twips.
+constexpr int kLargestChip = 17;         // 2^17 bytes, the most that the two-byte address form reaches.
 
 double Stored_Position(const char* name) {
   return Decimal_Number(GetSetting(name, "")).value_or(kFirstPosition);
@@ -35,7 +36,7 @@ std::string Position_Text(double twips) {
 // The block sizes stand until the first device is selected.
 void Form_Load() {
   frmMain.Move(Stored_Position(key::kMainLeft), Stored_Position(key::kMainTop));
-  Offer_Block_Sizes(kLargestBlock);
+  Offer_Block_Sizes(kLargestChip);
   if (!frmMain.CmbSize.Set_ListIndex(static_cast<int>(Get_Number_Setting(key::kAccessSize, 0))))
     frmMain.CmbSize.Set_ListIndex(0);
 }

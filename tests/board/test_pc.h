@@ -1,6 +1,7 @@
 // A PC for tests: speaks the board's commands.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>

@@ -6,6 +6,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <string>
+#include <tuple>
 
 #include "frm_main.h"
 #include "image_buffer.h"

@@ -6,6 +6,7 @@
 #include <cstddef>
 #include <functional>
 #include <string>
+#include <tuple>
 #include <vector>
 
 #include "frm_main.h"
