@@ -1,5 +1,5 @@
 // wrenbit-icons FOLDER: saves the program's picture in the sizes and the folders in which a desktop looks for
-// an application's icon (freedesktop.org, Icon Theme Specification). Used by the build; needs no display.
+// an application's icon (the icon themes of freedesktop.org). Used by the build; needs no display.
 #include <QDir>
 #include <QGuiApplication>
 #include <QImage>
