@@ -74,9 +74,8 @@ QRect Grid_View::Cell_Rect(int row, int col) const {
   return QRect(left, line * kRowHeight, right - left, kRowHeight).intersected(viewport()->rect());
 }
 
-void Grid_View::Paint_Cell(QPainter& painter, int row, int col) const {
+void Grid_View::Paint_Cell(QPainter& painter, const QRect& cell, int row, int col) const {
   const auto colour = [&](QPalette::ColorRole role) { return palette().color(Colours(), role); };
-  const QRect cell = Cell_Rect(row, col);
   const bool fixed = row == 0 || col == 0;
   const bool current = !fixed && row == grid.Row() && col == grid.Col();
   painter.fillRect(cell, colour(fixed ? QPalette::Button : current ? QPalette::Highlight : QPalette::Base));
@@ -96,7 +95,8 @@ void Grid_View::paintEvent(QPaintEvent* event) {
   painter.setFont(font());
   painter.fillRect(event->rect(), palette().color(Colours(), QPalette::Base));
   const auto paint_if_asked = [&](int row, int col) {
-    if (event->region().intersects(Cell_Rect(row, col))) Paint_Cell(painter, row, col);
+    const QRect cell = Cell_Rect(row, col);
+    if (event->region().intersects(cell)) Paint_Cell(painter, cell, row, col);
   };
   const int below = std::min(First_Row() + Rows_In_Sight() + 1, grid.Rows());
   for (int col = 0; col < grid.Cols(); ++col) {

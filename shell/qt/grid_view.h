@@ -52,7 +52,7 @@ class Grid_View : public QAbstractScrollArea {
   void Set_Scroll_Range();
   void Show_Current_Row();
   QPalette::ColorGroup Colours() const;  // Grey while nobody can reach the grid, and while it is out of date.
-  void Paint_Cell(QPainter& painter, int row, int col) const;
+  void Paint_Cell(QPainter& painter, const QRect& cell, int row, int col) const;
   void Make_Current(int row, int col);  // Unless it is a fixed cell or none.
   void Move_To(int row, int col);       // Or as near as the grid reaches.
 
