@@ -25,7 +25,8 @@ constexpr const char* kHeader =
     "Adr.|^0x00|^0x01|^0x02|^0x03|^0x04|^0x05|^0x06|^0x07|^0x08|^0x09|^0x0A|^0x0B|^0x0C|^0x0D|^0x0E|^0x0F|"
     "ASCII";
 constexpr const char* kNotTheImage =
-    "表は前の内容です。バッファは読めたところまでと FF です。もう一度読むか、ファイルをロードしてください。";
+    "表は前の内容です。バッファは読めたところまでの値で、残りは FF "
+    "です。もう一度読むか、ファイルをロードしてください。";
 constexpr const char* kPleaseWait = "しばらくお待ちください。";
 
 void Grid_Format() {
