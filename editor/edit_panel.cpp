@@ -78,6 +78,7 @@ std::optional<std::uint8_t> Bits_Byte() {
 void Edit_Panel_Show(std::uint8_t byte, std::string character, const Control* left_alone) {
   const auto show = [left_alone](TextBox& box, std::string text) {
     if (&box != left_alone) box.Set_Text(std::move(text));
+    box.Set_OutOfDate("");
   };
   show(frmMain.Text_modify_dec, std::to_string(byte));
   show(frmMain.Text_modify_hex, Hex_Text(byte, 2));

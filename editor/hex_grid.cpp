@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
+#include <initializer_list>
 #include <span>
 #include <string>
 #include <string_view>
@@ -25,8 +26,8 @@ constexpr const char* kHeader =
     "Adr.|^0x00|^0x01|^0x02|^0x03|^0x04|^0x05|^0x06|^0x07|^0x08|^0x09|^0x0A|^0x0B|^0x0C|^0x0D|^0x0E|^0x0F|"
     "ASCII";
 constexpr const char* kNotTheImage =
-    "表は前の内容です。バッファは読めたところまでの値で、残りは FF "
-    "です。もう一度読むか、ファイルをロードしてください。";
+    "表は前の内容です。バッファは読めたところまでの値で、残りは FF です。"
+    "もう一度読むか、ファイルをロードしてください。";
 constexpr const char* kPleaseWait = "しばらくお待ちください。";
 
 void Grid_Format() {
@@ -93,9 +94,11 @@ void Fill_Rows() {
   }
 }
 
-void Set_Grid_OutOfDate(const char* why) {
-  frmMain.MSFGrid1.Set_OutOfDate(why);
-  frmMain.LblCheckSUM.Set_OutOfDate(why);
+void Set_OutOfDate(const char* why) {
+  for (Control* shown :
+       std::initializer_list<Control*>{&frmMain.MSFGrid1, &frmMain.LblCheckSUM, &frmMain.Text_modify_hex,
+                                       &frmMain.Text_modify_dec, &frmMain.Text_modify_asc})
+    shown->Set_OutOfDate(why);
 }
 
 }  // namespace
@@ -111,7 +114,7 @@ void Grid_Refill() {
   frmMain.MSFGrid1.Set_Col(kFirstByteCol);
   frmMain.MSFGrid1.Set_Row(1);
   Grid_Format();
-  Set_Grid_OutOfDate("");
+  Set_OutOfDate("");
   frmMain.LblCheckSUM.Set_Caption(CheckSum_Text());
   MSFGrid1_Click();
   frmMain.sbStatusBar.Set_Panel(1, message);
@@ -119,7 +122,7 @@ void Grid_Refill() {
   frmMain.Set_MousePointer(Pointer::Default);
 }
 
-void Grid_Out_Of_Date() { Set_Grid_OutOfDate(kNotTheImage); }
+void Grid_Out_Of_Date() { Set_OutOfDate(kNotTheImage); }
 
 void Buffer_Init() {
   Image_Create();

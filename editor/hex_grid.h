@@ -7,8 +7,8 @@ namespace wrenbit {
 // far shows before the first row changes. An image of no size gives an empty grid, with nothing selected.
 void Grid_Refill();
 
-// The grid and the checksum label turn grey: they show what the image held before a read that failed. Until
-// the next refill.
+// Grid, checksum label and edit boxes turn grey: they show what the image held before a read that failed.
+// Until the next refill; the boxes until they show a byte of the image again.
 void Grid_Out_Of_Date();
 
 // A blank image of the selected device's size, shown in the grid.

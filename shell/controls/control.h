@@ -44,8 +44,8 @@ class Control {
   bool Visible() const { return visible; }
   void Set_Visible(bool value);
 
-  // Why what the control shows is not so any more; empty while it is. The views of labels and of the grid
-  // turn grey.
+  // Why what the control shows is not so any more; empty while it is. The views of labels, of boxes
+  // and of the grid turn grey.
   const std::string& OutOfDate() const { return out_of_date; }
   void Set_OutOfDate(std::string why) { Store(out_of_date, std::move(why)); }
 

@@ -53,6 +53,12 @@ void Edit_Line::Follow() {
   const int selected = box.SelLength();  // A new text in the view takes the selection away, from both.
   if (const QString now = Text_Of(box.Text()); text() != now) setText(now);
   if (selectionLength() != selected) setSelection(0, selected);
+  if (const QString why = Text_Of(box.OutOfDate()); why != toolTip()) {
+    setToolTip(why);
+    QPalette colours;
+    if (!why.isEmpty()) colours.setColor(QPalette::Text, colours.color(QPalette::Disabled, QPalette::Text));
+    setPalette(colours);
+  }
 }
 
 void Edit_Line::keyPressEvent(QKeyEvent* event) {

@@ -202,7 +202,8 @@ class One_Run {
     if (read && c.Command.Block && !done && !Read_So_Far(fault)) return "the image is no part of the chip";
     if (Bench.Ended) return {};
     if (!Grid_Shows(read && done ? ImageBuffer : Image)) return "the grid shows something else";
-    const bool grey = !frmMain.MSFGrid1.OutOfDate().empty() && !frmMain.LblCheckSUM.OutOfDate().empty();
+    const bool grey = !frmMain.MSFGrid1.OutOfDate().empty() && !frmMain.Text_modify_hex.OutOfDate().empty() &&
+                      !frmMain.LblCheckSUM.OutOfDate().empty();
     if (grey != (!done && read && c.Command.Block)) return "the grid does not tell that it is not the image";
     if (!done && read && frmMain.Text_modify_hex.Text() != Shown) return "the edit panel has changed";
     return {};
