@@ -250,6 +250,18 @@ TEST_F(Views, ALabelBehindAnotherIsNotReadOut) {
   EXPECT_FALSE(behind.state().invisible);
 }
 
+TEST_F(Views, ALabelAndABoxThatAreOutOfDateAreGrey) {
+  form.Box.Set_Text("abc");
+  for (Control* control : {static_cast<Control*>(&form.Box), static_cast<Control*>(&form.Above)}) {
+    QWidget& view = *window->View_Of(*control);
+    const QImage fresh = view.grab().toImage();
+    control->Set_OutOfDate("why");
+    EXPECT_NE(view.grab().toImage(), fresh);
+    control->Set_OutOfDate("");
+    EXPECT_EQ(view.grab().toImage(), fresh);
+  }
+}
+
 TEST_F(Views, EachPanelOfTheStatusBarShowsItsOwnText) {
   for (const int number : {1, 2, 3, 4}) form.Bar.Set_Panel(number, std::to_string(number));
   QString shown;
