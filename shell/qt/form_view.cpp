@@ -2,9 +2,13 @@
 
 #include <QCloseEvent>
 #include <QEventLoop>
+#include <QGuiApplication>
 #include <QLayout>
 #include <QMenuBar>
 #include <QScreen>
+#include <QTimer>
+#include <QWindow>
+#include <utility>
 
 #include "control_views.h"
 #include "look.h"
@@ -26,6 +30,13 @@ Qt::WindowFlags Flags(Form_Kind kind) {
   return Qt::Window | bar | Qt::WindowMinimizeButtonHint;
 }
 
+constexpr int kPatience = 1000;  // Milliseconds in which a window system has placed a new window.
+
+// Wayland keeps to itself where windows are.
+bool System_Tells_Positions() {
+  return !QGuiApplication::platformName().startsWith(QStringLiteral("wayland"));
+}
+
 bool Is_Menu(const Control* control) { return dynamic_cast<const Menu*>(control) != nullptr; }
 
 }  // namespace
@@ -37,6 +48,12 @@ Form_View::Form_View(Form& shown, Form_Kind what, QWidget* owner)
   if (kind == Form_Kind::Dialog) setWindowModality(Qt::ApplicationModal);
   Make_Views();
   Hook_Form();
+  if (kind != Form_Kind::Main) return;
+  winId();  // Makes the window, which can be told where its frame is to stand; a widget cannot before it
+            // shows.
+  connect(windowHandle(), &QWindow::visibleChanged, this, [this](bool visible) {
+    if (visible) Place_Frame();
+  });
 }
 
 Form_View::~Form_View() {
@@ -68,7 +85,10 @@ void Form_View::Hook_Form() {
   };
   form.Changed();
   form.View_Show = [this](bool modal) {
-    if (kind != Form_Kind::Main) Centre();
+    if (kind != Form_Kind::Main) {
+      Centre();
+      Focus_First();
+    }
     if (modal)
       Show_Until_Hidden();
     else
@@ -79,11 +99,7 @@ void Form_View::Hook_Form() {
     if (QWidget* view = View_Of(control)) view->setFocus();
   };
   form.View_Move = [this] {
-    if (noting) return;  // The form is told where the window is, not the window where to go.
-    const QPoint place(Pixels(form.Left()), Pixels(form.Top()));
-    placed = place;
-    frame_corner = {};
-    move(place);
+    if (!noting && isVisible()) Place_Frame();
   };
 }
 
@@ -99,6 +115,13 @@ void Form_View::Centre() {
   move(middle - rect().center());
 }
 
+// Each time a dialog opens, wherever the keyboard was when it closed.
+void Form_View::Focus_First() {
+  for (const Control* control : form.Controls())
+    if (QWidget* view = View_Of(*control); view && view->isEnabled() && view->focusPolicy() & Qt::TabFocus)
+      return view->setFocus();
+}
+
 void Form_View::Show_Until_Hidden() {
   QEventLoop loop;
   form.View_Hide = [this, &loop] {
@@ -110,16 +133,27 @@ void Form_View::Show_Until_Hidden() {
   form.View_Hide = [this] { hide(); };
 }
 
+QPoint Form_View::Wanted_Corner() const { return {Pixels(form.Left()), Pixels(form.Top())}; }
+
+void Form_View::Place_Frame() {
+  placing = true;
+  windowHandle()->setFramePosition(Wanted_Corner());
+  QTimer::singleShot(kPatience, this, [this] { placing = false; });
+}
+
 void Form_View::Note_Position() {
-  if (!isVisible() || isMinimized()) return;
-  // Qt learns of the frame late, and from some window managers never rightly. So the frame is measured while
-  // the window stands where it was put; from there on only moves of the window itself count.
-  if (pos() == placed) frame_corner = geometry().topLeft() - placed;
-  const QPoint place = geometry().topLeft() - frame_corner;
-  const QPoint known(Pixels(form.Left()), Pixels(form.Top()));
-  if (place == known) return;  // The form keeps its fractions of a pixel.
+  if (kind != Form_Kind::Main || !isVisible() || isMinimized() || !System_Tells_Positions()) return;
+  // Not what the widget knows, which learns of its frame late, and from some window managers never rightly.
+  const QWindow& window = *windowHandle();
+  const QPoint corner = window.framePosition();
+  const QPoint before = std::exchange(resting, window.position());
+  if (placing) {
+    placing = corner != Wanted_Corner() || window.frameMargins().isNull();
+    return;
+  }
+  if (resting == before || corner == Wanted_Corner()) return;  // The form keeps its fractions of a pixel.
   noting = true;
-  form.Move(place.x() * kTwipsPerPixel, place.y() * kTwipsPerPixel);
+  form.Move(corner.x() * kTwipsPerPixel, corner.y() * kTwipsPerPixel);
   noting = false;
 }
 

@@ -33,14 +33,17 @@ class Form_View : public QMainWindow {
   void Make_Views();
   void Hook_Form();
   void Centre();
+  void Focus_First();
   void Show_Until_Hidden();
+  void Place_Frame();
+  QPoint Wanted_Corner() const;
   void Note_Position();
 
   Form& form;
   const Form_Kind kind;
-  bool noting = false;  // The form is being told of a move of the window's own.
-  QPoint placed;        // Where the form put the corner of the window's frame.
-  QPoint frame_corner;  // From that corner to the window's own.
+  bool placing = false;  // The window system still moves the window to its place; no user has moved it.
+  bool noting = false;   // The form is being told of a move of the window's own.
+  QPoint resting;        // Where the window, without its frame, was at the last look.
   std::unordered_map<const Control*, QWidget*> views;
 };
 
