@@ -12,7 +12,7 @@ class CommonDialog {
   std::string DialogTitle;
   std::string InitDir;     // Folder to begin in; empty leaves it to the platform.
   std::string Filter;      // Name, "|", pattern, "|", and again.
-  std::string DefaultExt;  // Goes behind a typed name that has none, when saving.
+  std::string DefaultExt;  // Goes behind a typed name that has none; when opening, if that file is there.
   std::string FileName;    // Proposed name before, whole path afterwards.
   std::string FileTitle;   // Name without the folder.
 

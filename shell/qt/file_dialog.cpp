@@ -3,11 +3,17 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QHeaderView>
+#include <QListView>
+#include <QTreeView>
 #include <string>
 #include <utility>
 
 namespace wrenbit {
 namespace {
+
+constexpr QSize kDialog(660, 440);  // As much as a small screen has.
+constexpr int kAir = 12;            // Pixels around a list's entries.
 
 // "Hexファイル|*.hex|全てのファイル|*.*|" as Qt writes it, for file systems that tell small letters from
 // capitals.
@@ -23,11 +29,31 @@ QStringList Name_Filters(const std::string& filter) {
   return filters;
 }
 
-// The lists of Qt's own dialog, after the labels beside them.
-void Name_Lists(QFileDialog& box) {
+// Qt's own dialog, where the desktop has none: names for its lists, after the labels beside them, and room
+// for what it would cut. All files are of the kind that the filter says.
+void Tidy(QFileDialog& box) {
   for (const auto& [list, label] :
        {std::pair{"lookInCombo", QFileDialog::LookIn}, std::pair{"fileTypeCombo", QFileDialog::FileType}})
     if (auto* view = box.findChild<QWidget*>(list)) view->setAccessibleName(box.labelText(label));
+  box.resize(kDialog);
+  if (auto* places = box.findChild<QListView*>("sidebar"))
+    places->setMinimumWidth(places->sizeHintForColumn(0) + kAir);
+  auto* files = box.findChild<QTreeView*>("treeView");
+  if (!files) return;
+  enum { kName, kSize, kType, kDate };
+  files->setColumnHidden(kType, true);
+  files->header()->setStretchLastSection(false);
+  files->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+  files->header()->setSectionResizeMode(kName, QHeaderView::Stretch);
+}
+
+// A name without an extension is the file's whole name where there is such a file; else the default one goes
+// behind it, as it does when saving, in whichever case there is a file.
+QFileInfo With_Extension(const QFileInfo& chosen, const QString& extension) {
+  if (chosen.exists() || !chosen.suffix().isEmpty()) return chosen;
+  for (const QString& ending : {extension, extension.toLower()})
+    if (const QFileInfo there(chosen.filePath() + '.' + ending); there.exists()) return there;
+  return chosen;
 }
 
 bool Ask(CommonDialog& dialog, QFileDialog::AcceptMode mode, QWidget* owner) {
@@ -38,15 +64,17 @@ bool Ask(CommonDialog& dialog, QFileDialog::AcceptMode mode, QWidget* owner) {
   box.setFileMode(QFileDialog::AnyFile);
   box.setOption(QFileDialog::DontConfirmOverwrite);
   box.setNameFilters(Name_Filters(dialog.Filter));
-  // When opening, a name without an extension may be a file's whole name.
-  if (mode == QFileDialog::AcceptSave) box.setDefaultSuffix(QString::fromStdString(dialog.DefaultExt));
+  const QString extension = QString::fromStdString(dialog.DefaultExt);
+  const bool saving = mode == QFileDialog::AcceptSave;
+  if (saving) box.setDefaultSuffix(extension);
   const QString proposed = QString::fromStdString(dialog.FileName);
   // A pattern in place of a name says no more than the filter does.
   if (!proposed.isEmpty() && !proposed.contains('*')) box.selectFile(QFileInfo(proposed).fileName());
-  Name_Lists(box);
+  Tidy(box);
   if (box.exec() != QDialog::Accepted || box.selectedFiles().isEmpty()) return false;
 
-  const QFileInfo chosen(box.selectedFiles().first());
+  QFileInfo chosen(box.selectedFiles().first());
+  if (!saving) chosen = With_Extension(chosen, extension);
   dialog.FileName = chosen.filePath().toStdString();
   dialog.FileTitle = chosen.fileName().toStdString();
   return true;
