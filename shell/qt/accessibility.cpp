@@ -14,15 +14,16 @@ namespace {
 
 constexpr const char* kRole = "wrenbit_role";
 
-// A label that lies behind another view is not to be read before it is to be seen.
+// A label is called by its text, where Qt would call it by the group that it lies in. One that lies behind
+// another view is not to be read before it is to be seen.
 class Label_Accessible : public QAccessibleWidget {
  public:
   explicit Label_Accessible(QLabel& shown)
       : QAccessibleWidget(&shown, QAccessible::StaticText), label(shown) {}
 
   QString text(QAccessible::Text what) const override {
-    const QString own = QAccessibleWidget::text(what);
-    return what == QAccessible::Name && own.isEmpty() ? label.text() : own;
+    if (what != QAccessible::Name) return QAccessibleWidget::text(what);
+    return label.accessibleName().isEmpty() ? label.text() : label.accessibleName();
   }
   QAccessible::State state() const override {
     QAccessible::State state = QAccessibleWidget::state();

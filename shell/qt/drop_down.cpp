@@ -5,8 +5,15 @@
 #include "look.h"
 
 namespace wrenbit {
+namespace {
+
+constexpr int kRowsInSight = 15;
+
+}  // namespace
 
 Drop_Down::Drop_Down(ComboBox& shown, QWidget* holder) : QComboBox(holder), box(shown) {
+  setFocusPolicy(Qt::StrongFocus);  // Unlike the list's own, which a turn of the wheel satisfies.
+  setMaxVisibleItems(kRowsInSight);
   connect(this, &QComboBox::activated, this, [this](int index) { box.Set_ListIndex(index); });
 }
 

@@ -21,7 +21,8 @@ class Drop_Down : public QComboBox {
 
  protected:
   bool event(QEvent* event) override;
-  // A wheel that only rolls past must not pick another chip, which costs the image.
+  // A wheel that only rolls past must not pick another chip, which costs the image: neither at once, nor by
+  // taking the keyboard, whose next key would.
   void wheelEvent(QWheelEvent* event) override { event->ignore(); }
 
  private:
