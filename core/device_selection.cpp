@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <cstdint>
 #include <string>
 
 #include "block_transfer.h"
@@ -35,12 +36,33 @@ std::string Spec_Text(const Device_Row& row) {
          " WriteSpeed:" + row[kWriteSpeed] + " ClockSpeed:" + row[kClockSpeed] + " ";
 }
 
+// A block that is smaller than the chip leaves the rest unread or unwritten, which no status text says.
+void Tell_Block() {
+  const bool usable = Image_Usable();
+  const auto tell = [usable](Control& control, const std::string& text) {
+    control.Set_ToolTipText(usable ? text : "");
+  };
+  const std::int32_t power = std::min(AccessSize, MemSize);
+  const bool whole = power == MemSize;
+  const std::string chip = std::to_string(ImageBuffer.size()) + " バイト";
+  const std::string block =
+      whole ? "全 " + chip : chip + "中、先頭の " + std::to_string(1L << std::max(power, 0)) + " バイト";
+  const std::string byte = chip + "中、選択中の 1 バイト";
+  tell(frmMain.CmbSize, "ブロック: " + block);
+  tell(frmMain.Cmd_READ_all,
+       block + "をチップから読み出します。" + (whole ? "" : "残りはバッファで FF になります。"));
+  tell(frmMain.Cmd_WRITE_all,
+       block + "をチップに書き込みます。" + (whole ? "" : "残りはチップで元のままです。"));
+  tell(frmMain.Cmd_READ_single, byte + "をチップから読み出します。");
+  tell(frmMain.Cmd_WRITE_single, byte + "をチップに書き込みます。");
+}
+
 // One entry for each power of two up to the chip's size. The size chosen before stays, if the chip is that
 // large; past a device without a usable size, too.
 void Rebuild_Block_Sizes() {
   const int before = AccessSize - kSmallestBlock;
   frmMain.CmbSize.Clear();
-  if (!Image_Usable()) return;
+  if (!Image_Usable()) return Tell_Block();
   Offer_Block_Sizes(MemSize);
   frmMain.CmbSize.Set_ListIndex(std::clamp(before, 0, frmMain.CmbSize.ListCount() - 1));
 }
@@ -74,6 +96,7 @@ void Offer_Block_Sizes(int exponent) {
 void CmbSize_Click() {
   SaveSetting(key::kAccessSize, std::to_string(frmMain.CmbSize.ListIndex()));
   AccessSize = frmMain.CmbSize.ListIndex() + kSmallestBlock;
+  Tell_Block();
 }
 
 }  // namespace wrenbit

@@ -10,7 +10,8 @@ void Combo_device_Click();
 // Fills CmbSize with the powers of two from 16 up to 2^exponent bytes. Selects none.
 void Offer_Block_Sizes(int exponent);
 
-// Takes the block size from CmbSize and stores the choice.
+// Takes the block size from CmbSize, stores the choice, and tells in the tips of CmbSize and of the four
+// transfer buttons how much of the chip they move.
 void CmbSize_Click();
 
 }  // namespace wrenbit

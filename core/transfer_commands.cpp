@@ -58,7 +58,12 @@ void Cmd_READ_all_Click() {
   frmMain.sbStatusBar.Set_Panel(1, "読み出し中.....");
   Image_Create();
   Run_Engine(C24_AllRead, C93_AllRead);
-  LinkError == 0 ? Grid_Refill() : Grid_Out_Of_Date();
+  if (LinkError == 0) {
+    Grid_Refill();
+    Grid_Unread_From(1 << AccessSize);
+  } else {
+    Grid_Out_Of_Date();
+  }
   Command_Unlock();
 }
 

@@ -14,7 +14,7 @@ void Command_Unlock();
 
 // Into a blank image; the grid follows only when the whole block came. The image is blanked before anything
 // is known of the board, so that after a failure image and grid differ until the next refill, and the grid is
-// grey.
+// grey. What lies behind a block that is smaller than the chip shows weaker than what was read.
 void Cmd_READ_all_Click();
 void Cmd_WRITE_all_Click();
 void Cmd_READ_single_Click();

@@ -42,6 +42,7 @@ void Edit_Byte(std::optional<std::uint8_t> (*new_byte)(), const Control* left_al
   frmMain.MSFGrid1.Set_Text(Cell_Text(byte));
   Show_Row_Text();
   frmMain.LblCheckSUM.Set_Caption(CheckSum_Text());
+  frmMain.LblCheckSUM.Set_OutOfDate("");
   UpdatingControls = 0;
 }
 
@@ -83,8 +84,10 @@ void Edit_Panel_Show(std::uint8_t byte, std::string character, const Control* le
   show(frmMain.Text_modify_dec, std::to_string(byte));
   show(frmMain.Text_modify_hex, Hex_Text(byte, 2));
   show(frmMain.Text_modify_asc, std::move(character));
-  for (std::size_t bit = 0; bit < frmMain.ChkBin.size(); ++bit)
+  for (std::size_t bit = 0; bit < frmMain.ChkBin.size(); ++bit) {
     frmMain.ChkBin[bit].Set_Value(byte >> bit & 1);
+    frmMain.ChkBin[bit].Set_OutOfDate("");
+  }
 }
 
 void Text_modify_hex_KeyPress(std::int16_t& key) {

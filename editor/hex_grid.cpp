@@ -99,6 +99,7 @@ void Set_OutOfDate(const char* why) {
        std::initializer_list<Control*>{&frmMain.MSFGrid1, &frmMain.LblCheckSUM, &frmMain.Text_modify_hex,
                                        &frmMain.Text_modify_dec, &frmMain.Text_modify_asc})
     shown->Set_OutOfDate(why);
+  for (CheckBox& bit : frmMain.ChkBin) bit.Set_OutOfDate(why);
 }
 
 }  // namespace
@@ -115,6 +116,8 @@ void Grid_Refill() {
   frmMain.MSFGrid1.Set_Row(1);
   Grid_Format();
   Set_OutOfDate("");
+  frmMain.MSFGrid1.Set_WeakFrom(0);
+  frmMain.MSFGrid1.Set_ToolTipText("");
   frmMain.LblCheckSUM.Set_Caption(CheckSum_Text());
   MSFGrid1_Click();
   frmMain.sbStatusBar.Set_Panel(1, message);
@@ -123,6 +126,13 @@ void Grid_Refill() {
 }
 
 void Grid_Out_Of_Date() { Set_OutOfDate(kNotTheImage); }
+
+void Grid_Unread_From(std::int32_t address) {
+  if (static_cast<std::size_t>(address) >= ImageBuffer.size()) return;
+  frmMain.MSFGrid1.Set_WeakFrom(address / kBytesPerRow + 1);
+  frmMain.MSFGrid1.Set_ToolTipText("薄い色の行はブロックの外です。チップから読んでいません。(アドレス " +
+                                   std::to_string(address) + " から)");
+}
 
 void Buffer_Init() {
   Image_Create();

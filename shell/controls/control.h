@@ -44,10 +44,15 @@ class Control {
   bool Visible() const { return visible; }
   void Set_Visible(bool value);
 
-  // Why what the control shows is not so any more; empty while it is. The views of labels, of boxes
-  // and of the grid turn grey.
+  // Why what the control shows is not so any more; empty while it is. Its view turns grey and tells this in
+  // place of the tip.
   const std::string& OutOfDate() const { return out_of_date; }
   void Set_OutOfDate(std::string why) { Store(out_of_date, std::move(why)); }
+
+  // What the control does, for who rests the pointer on it and for a screen reader. Empty where the caption
+  // says enough.
+  const std::string& ToolTipText() const { return tool_tip_text; }
+  void Set_ToolTipText(std::string text) { Store(tool_tip_text, std::move(text)); }
 
   // True when the control and all that hold it are enabled: only then can the user reach it.
   bool Reachable() const;
@@ -57,7 +62,8 @@ class Control {
   bool Set_Focus();
 
   // Enabled, up to date, and with the texts and values with which the control was made: what unloading a form
-  // does to what lies on it. Leaves where it lies, whether it shows and what a screen reader calls it.
+  // does to what lies on it. Leaves where it lies, whether it shows, its tip and what a screen reader calls
+  // it.
   virtual void Reset();
 
   Form& Window() const { return *form; }
@@ -67,8 +73,6 @@ class Control {
   const Font Lettering;
   // What a screen reader calls the control. Empty where the caption says it.
   std::string AccessibleName;
-  // What it tells besides. Empty where the name says enough.
-  std::string AccessibleDescription;
 
   // Called after any property has changed. Set by the view, and by nobody else.
   std::function<void()> Changed;
@@ -91,6 +95,7 @@ class Control {
   Control* container = nullptr;
   Form* form = nullptr;
   std::string out_of_date;
+  std::string tool_tip_text;
   bool enabled = true;
   bool visible = true;
 };

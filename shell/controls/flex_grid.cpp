@@ -64,7 +64,18 @@ void FlexGrid::Set_Clip(std::string_view text) {
 void FlexGrid::Set_Text(std::string_view text) {
   if (row >= Rows()) return;
   Set_Cell(row, col, text);
+  if (Weak(row, col)) strong.emplace(row, col);
   Tell_If_Visible();
+}
+
+void FlexGrid::Set_WeakFrom(int first_row) {
+  weak_from = first_row;
+  strong.clear();
+  Tell_If_Visible();
+}
+
+bool FlexGrid::Weak(int at_row, int at_col) const {
+  return weak_from > 0 && at_row >= weak_from && !strong.contains({at_row, at_col});
 }
 
 std::string_view FlexGrid::Cell(int at_row, int at_col) const {
@@ -103,7 +114,8 @@ void FlexGrid::Set_ColAlignment(int column, Alignment alignment) {
 void FlexGrid::Reset() {
   rows.clear();
   columns.clear();
-  row = col = col_sel = 0;
+  row = col = col_sel = weak_from = 0;
+  strong.clear();
   Control::Reset();
 }
 

@@ -6,8 +6,10 @@
 
 #include <cstddef>
 #include <functional>
+#include <set>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "control.h"
@@ -39,6 +41,11 @@ class FlexGrid : public Control {
   std::string Text() const { return std::string(Cell(row, col)); }
   void Set_Text(std::string_view text);
 
+  // The cells of this row and of those below are weaker than the others, but for what Set_Text writes from
+  // now on. Until it is set again.
+  void Set_WeakFrom(int first_row);
+  bool Weak(int at_row, int at_col) const;
+
   // Any cell; empty outside the grid. The view is good until the grid changes.
   std::string_view Cell(int at_row, int at_col) const;
 
@@ -67,6 +74,8 @@ class FlexGrid : public Control {
   int row = 0;
   int col = 0;
   int col_sel = 0;
+  int weak_from = 0;                     // 0: none.
+  std::set<std::pair<int, int>> strong;  // Row and column.
 };
 
 }  // namespace wrenbit

@@ -31,14 +31,11 @@ struct Frm_Main : Form {
       ChkBin[bit].AccessibleName = "ビット" + std::to_string(bit);
     MSFGrid1.AccessibleName = "バッファ";
     sbStatusBar.AccessibleName = "ステータスバー";
+    sbStatusBar.UsualLink = "COM1 : TOLVEX Ver.5.00";
     sbStatusBar.PanelNames = {"メッセージ", "接続", "アドレスと進み具合", "デバイス"};
-    Cmd_Open.AccessibleDescription = "Intel HEX ファイルをバッファに読み込みます";
-    Cmd_SaveAs.AccessibleDescription = "バッファを Intel HEX ファイルに保存します";
-    Cmd_Port.AccessibleDescription = "通信ポートを設定します";
-    Cmd_READ_single.AccessibleDescription = "選択中の1バイトをチップから読み出します";
-    Cmd_WRITE_single.AccessibleDescription = "選択中の1バイトをチップに書き込みます";
-    Cmd_READ_all.AccessibleDescription = "先頭からブロックサイズ分をチップから読み出します";
-    Cmd_WRITE_all.AccessibleDescription = "先頭からブロックサイズ分をチップに書き込みます";
+    Cmd_Open.Set_ToolTipText("Intel HEX ファイルをバッファに読み込みます。");
+    Cmd_SaveAs.Set_ToolTipText("バッファ全体を Intel HEX ファイルに保存します。");
+    Cmd_Port.Set_ToolTipText("通信ポートを設定します。");
   }
 
   CommandButton Cmd_Open{*this, {135, 135, 915, 780}, "開く", kToolRow, Picture::Open};

@@ -21,6 +21,8 @@ class StatusBar : public Control {
   void Reset() override;
 
   const std::array<int, kPanels> Widths;
+  // A text that panel 2 shows day by day. The letters of all panels are as narrow as it needs.
+  std::string UsualLink;
   // What a screen reader calls the panels: what each one tells of.
   std::array<std::string, kPanels> PanelNames;
 

@@ -8,6 +8,7 @@
 #include <QMenuBar>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QPolygonF>
 #include <QPushButton>
 #include <QStyleOption>
 #include <QStylePainter>
@@ -24,6 +25,7 @@
 #include "lists_and_boxes.h"
 #include "look.h"
 #include "pictures.h"
+#include "pixel_lines.h"
 #include "plain_controls.h"
 #include "status_bar.h"
 
@@ -33,8 +35,22 @@ namespace {
 // Calls show now and after each change of the control.
 template <class Show>
 void Follow(Control& control, Show show) {
-  show();
   control.Changed = std::move(show);
+  control.Changed();
+}
+
+void Show_Tip(QWidget& view, const Control& control) {
+  const QString tip = Text_Of(control.OutOfDate().empty() ? control.ToolTipText() : control.OutOfDate());
+  view.setToolTip(tip);
+  if (view.accessibleDescription() != tip) view.setAccessibleDescription(tip);
+}
+
+// Letters and marks as in a disabled view.
+void Set_Grey(QWidget& view, bool grey) {
+  QPalette colours;
+  for (const QPalette::ColorRole role : {QPalette::Text, QPalette::WindowText})
+    if (grey) colours.setColor(role, colours.color(QPalette::Disabled, role));
+  view.setPalette(colours);
 }
 
 // The same for a widget at a place of its own, which also keeps to what every control has.
@@ -43,10 +59,11 @@ Widget* Placed(Widget* view, Control& control, Show show) {
   view->setGeometry(Pixels(control.At));
   view->setFont(Font_For(control.Lettering));
   view->setAccessibleName(Text_Of(control.AccessibleName));
-  view->setAccessibleDescription(Text_Of(control.AccessibleDescription));
-  Follow(control, [view, &control, show] {
+  Follow(control, [view, &control, show, grey = false]() mutable {
     view->setEnabled(control.Enabled());
     view->setVisible(control.Visible());
+    Show_Tip(*view, control);
+    if (grey != !control.OutOfDate().empty()) Set_Grey(*view, grey = !grey);
     show();
   });
   return view;
@@ -67,10 +84,7 @@ QWidget* Label_View(Label& label, QWidget* holder) {
     colours.setColor(QPalette::WindowText, QColor(*label.ForeColor));
     view->setPalette(colours);
   }
-  return Placed(view, label, [view, &label] {
-    view->setText(Text_Of(label.Caption()));
-    if (!label.OutOfDate().empty()) view->setEnabled(false);
-  });
+  return Placed(view, label, [view, &label] { view->setText(Text_Of(label.Caption())); });
 }
 
 // A thin line around the group, with the caption standing in it. The style's own group box would lay the line
@@ -83,8 +97,7 @@ class Group_Box : public QGroupBox {
   void paintEvent(QPaintEvent*) override {
     QPainter painter(this);
     const int letters = font().pixelSize();
-    painter.setPen(palette().color(QPalette::Mid));
-    painter.drawRect(rect().adjusted(0, letters / 2, -1, -1));
+    Draw_Frame(painter, rect().adjusted(0, letters / 2, 0, 0), Line_Colour(palette()));
     if (title().isEmpty()) return;
     const QRect gap(8, 0, std::min(fontMetrics().horizontalAdvance(title()) + 6, width() - 16), letters + 1);
     painter.fillRect(gap, palette().window());
@@ -135,9 +148,9 @@ class Push_Button : public QPushButton {
     option.text.clear();
     painter.drawControl(QStyle::CE_PushButton, option);
     const QRect room = rect().translated(0, isDown() ? 1 : 0);
-    const QRect place((room.width() - kSide) / 2, room.top() + 2, kSide, kSide);
+    const QRect place((room.width() - kSide) / 2, room.top() + 3, kSide, kSide);
     icon().paint(&painter, place, Qt::AlignCenter, isEnabled() ? QIcon::Normal : QIcon::Disabled);
-    painter.drawItemText(room.adjusted(3, kSide + 2, -3, -2), Qt::AlignCenter, palette(), isEnabled(), text(),
+    painter.drawItemText(room.adjusted(3, kSide + 3, -3, -2), Qt::AlignCenter, palette(), isEnabled(), text(),
                          QPalette::ButtonText);
   }
 };
@@ -156,21 +169,24 @@ QWidget* Button_View(CommandButton& button, QWidget* holder) {
   });
 }
 
-// Without a caption there is hardly more room than the mark's, and the style would draw past it.
+// Without a caption there is hardly more room than the mark's, and the style would draw past it. Its box has
+// an edge that is seen also while there is no mark in it.
 class Bare_Check_Box : public QCheckBox {
  public:
   using QCheckBox::QCheckBox;
 
  protected:
   void paintEvent(QPaintEvent*) override {
+    const QPalette::ColorGroup group = isEnabled() ? QPalette::Active : QPalette::Disabled;
+    const auto colour = [&](QPalette::ColorRole role) { return palette().color(group, role); };
     QPainter painter(this);
-    QStyleOptionButton option;
-    initStyleOption(&option);
-    option.rect = rect().adjusted(0, 0, -1, -1);
-    style()->drawPrimitive(QStyle::PE_IndicatorCheckBox, &option, &painter, this);
-    if (!hasFocus()) return;
-    painter.setPen(palette().color(QPalette::Highlight));
-    painter.drawRect(option.rect.adjusted(0, 0, -1, -1));
+    painter.fillRect(rect(), isEnabled() ? colour(QPalette::Base) : colour(QPalette::Window));
+    Draw_Frame(painter, rect(), hasFocus() ? colour(QPalette::Highlight) : Line_Colour(palette()));
+    if (!isChecked()) return;
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(colour(QPalette::Text), 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    const auto at = [this](double x, double y) { return QPointF(x * width(), y * height()); };
+    painter.drawPolyline(QPolygonF({at(0.25, 0.5), at(0.43, 0.7), at(0.75, 0.28)}));
   }
 };
 
@@ -211,10 +227,14 @@ QWidget* Status_Bar_View(StatusBar& bar, QWidget* holder) {
     panels[i]->setTextFormat(Qt::PlainText);
     panels[i]->setAccessibleDescription(Text_Of(bar.PanelNames[i]));
     panels[i]->setFrameStyle(static_cast<int>(QFrame::Panel) | static_cast<int>(QFrame::Sunken));
-    panels[i]->setGeometry(Pixels(Place{left, 0, bar.Widths[i], bar.At.Height}).adjusted(1, 1, -1, -1));
-    panels[i]->setMargin(2);
+    panels[i]->setGeometry(Pixels(Place{left, 0, bar.Widths[i], bar.At.Height}).adjusted(0, 0, -1, 0));
+    panels[i]->setMargin(1);
     left += bar.Widths[i];
   }
+  const QString usual = Text_Of(bar.UsualLink);
+  const auto width = [&](const QFont& letters) { return QFontMetrics(letters).horizontalAdvance(usual); };
+  const QFont letters = Widest_That_Fits(Font_For(bar.Lettering), panels[1]->Room().width(), width);
+  for (Fitted_Label* panel : panels) panel->setFont(letters);
   return Placed(view, bar, [panels, &bar] {
     for (int number = 1; QLabel * panel : panels) {
       const QString whole = Text_Of(bar.Panel(number++));

@@ -2,6 +2,7 @@
 
 #include <QFontMetrics>
 #include <QKeyEvent>
+#include <QPainter>
 #include <algorithm>
 #include <cstdint>
 #include <string>
@@ -10,6 +11,7 @@
 #include "accessibility.h"
 #include "fitted_text.h"
 #include "look.h"
+#include "pixel_lines.h"
 
 namespace wrenbit {
 namespace {
@@ -28,11 +30,7 @@ std::string Plain_Characters(const QString& text) {
 Edit_Line::Edit_Line(TextBox& shown, QWidget* holder) : QLineEdit(holder), box(shown) {
   setMaxLength(box.MaxLength);
   setReadOnly(!box.Change);
-  // A thin edge, because the box is hardly higher than its letters.
-  setStyleSheet(
-      QStringLiteral("QLineEdit { border: 1px solid palette(dark); background: palette(base); }"
-                     "QLineEdit:focus { border-color: palette(highlight); }"
-                     "QLineEdit:disabled { background: palette(window); }"));
+  setFrame(false);  // It draws a thin one of its own, because the box is hardly higher than its letters.
   connect(this, &QLineEdit::textEdited, this,
           [this](const QString& typed) { box.Edit(Plain_Characters(typed)); });
   // A screen reader writes the text without editing it, and also where the user could not.
@@ -53,12 +51,6 @@ void Edit_Line::Follow() {
   const int selected = box.SelLength();  // A new text in the view takes the selection away, from both.
   if (const QString now = Text_Of(box.Text()); text() != now) setText(now);
   if (selectionLength() != selected) setSelection(0, selected);
-  if (const QString why = Text_Of(box.OutOfDate()); why != toolTip()) {
-    setToolTip(why);
-    QPalette colours;
-    if (!why.isEmpty()) colours.setColor(QPalette::Text, colours.color(QPalette::Disabled, QPalette::Text));
-    setPalette(colours);
-  }
 }
 
 void Edit_Line::keyPressEvent(QKeyEvent* event) {
@@ -89,6 +81,12 @@ void Edit_Line::focusInEvent(QFocusEvent* event) {
 void Edit_Line::mouseReleaseEvent(QMouseEvent* event) {
   QLineEdit::mouseReleaseEvent(event);
   if (std::exchange(entered, false) && !hasSelectedText()) selectAll();
+}
+
+void Edit_Line::paintEvent(QPaintEvent* event) {
+  QLineEdit::paintEvent(event);
+  QPainter painter(this);
+  Draw_Frame(painter, rect(), hasFocus() ? palette().color(QPalette::Highlight) : Line_Colour(palette()));
 }
 
 void Edit_Line::resizeEvent(QResizeEvent* event) {

@@ -26,14 +26,6 @@ QFont Narrowed(QFont font, int percent) {
   return font;
 }
 
-// The widest letters with which the text fits, else the narrowest.
-template <class Fits>
-QFont Widest(const QFont& font, Fits fits) {
-  for (const int percent : kStretches)
-    if (const QFont letters = Narrowed(font, percent); fits(letters)) return letters;
-  return Narrowed(font, *std::rbegin(kStretches));
-}
-
 QStringList Broken(QString text, const QFont& font, int width) {
   text.remove('\r').replace('\n', QChar::LineSeparator);
   QTextLayout layout(text, font);
@@ -51,6 +43,12 @@ QStringList Broken(QString text, const QFont& font, int width) {
 }
 
 }  // namespace
+
+QFont Widest_That_Fits(const QFont& font, int room, const std::function<int(const QFont&)>& width) {
+  for (const int percent : kStretches)
+    if (const QFont letters = Narrowed(font, percent); width(letters) <= room) return letters;
+  return Narrowed(font, *std::rbegin(kStretches));
+}
 
 Fitted_Text Fit(const QString& text, const QFont& font, const QSize& room) {
   if (!text.contains('\n') && QFontMetrics(font).horizontalAdvance(text) <= room.width())
@@ -103,6 +101,22 @@ void Draw_Fitted(QPainter& painter, const QRect& room, Qt::Alignment alignment, 
   painter.setFont(font);
 }
 
+void Draw_In_Columns(QPainter& painter, const QRect& room, const QString& text) {
+  const QFontMetricsF metrics(painter.font());
+  const double column = metrics.horizontalAdvance('0');
+  if (metrics.horizontalAdvance(text) <= static_cast<double>(text.size()) * column)
+    return Draw_Fitted(painter, room, Qt::AlignVCenter, text);
+  const int base_line = Base_Line(text, painter.font(), room, Qt::AlignVCenter);
+  for (qsizetype i = 0; i < text.size(); ++i) {
+    const double width = metrics.horizontalAdvance(text[i]);
+    painter.save();
+    painter.translate(room.left() + static_cast<double>(i) * column, base_line);
+    if (width > column) painter.scale(column / width, 1);
+    painter.drawText(QPointF(), text[i]);
+    painter.restore();
+  }
+}
+
 QRect Fitted_Label::Room() const {
   QRect room = contentsRect().adjusted(margin(), 0, -margin(), 0);
   const QObjectList siblings = parent()->children();
@@ -129,25 +143,6 @@ bool Fitted_Label::event(QEvent* event) {
   if (event->type() == QEvent::ToolTip)
     setToolTip(Fit(text(), font(), Room().size()).Whole ? QString() : text());
   return QLabel::event(event);
-}
-
-void Fitting_Style::drawItemText(QPainter* painter, const QRect& room, int flags, const QPalette& palette,
-                                 bool enabled, const QString& text, QPalette::ColorRole role) const {
-  if (flags & Qt::TextWordWrap || text.contains('\n'))
-    return QProxyStyle::drawItemText(painter, room, flags, palette, enabled, text, role);
-  const QFont font = painter->font();
-  const auto fits = [&](const QFont& letters) {
-    return QFontMetrics(letters).size(flags | Qt::TextSingleLine, text).width() <= room.width();
-  };
-  const QFont letters = Widest(font, fits);
-  const QFontMetrics metrics(letters);
-  const int base_line = Base_Line(text, letters, room, Qt::Alignment(flags & Qt::AlignVertical_Mask));
-  painter->setFont(letters);
-  QProxyStyle::drawItemText(
-      painter, QRect(room.left(), base_line - metrics.ascent(), room.width(), metrics.height()),
-      (flags & ~int{Qt::AlignVertical_Mask}) | Qt::AlignTop | Qt::TextSingleLine | Qt::TextDontClip, palette,
-      enabled, fits(letters) ? text : metrics.elidedText(text, Qt::ElideRight, room.width(), flags), role);
-  painter->setFont(font);
 }
 
 }  // namespace wrenbit

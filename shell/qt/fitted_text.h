@@ -4,8 +4,8 @@
 
 #include <QFont>
 #include <QLabel>
-#include <QProxyStyle>
 #include <QStringList>
+#include <functional>
 
 namespace wrenbit {
 
@@ -19,8 +19,15 @@ struct Fitted_Text {
 // Breaks lines where the room is high enough for several, and narrows the letters before it takes any away.
 Fitted_Text Fit(const QString& text, const QFont& font, const QSize& room);
 
+// The widest letters with which a text fits into so many pixels, else the narrowest. `width` measures it.
+QFont Widest_That_Fits(const QFont& font, int room, const std::function<int(const QFont&)>& width);
+
 // Fits the text and draws it in the painter's font and pen.
 void Draw_Fitted(QPainter& painter, const QRect& room, Qt::Alignment alignment, const QString& text);
+
+// The same for characters that stand under one another from text to text, each in a column as wide as a
+// digit: one that the font draws wider is pressed into its column.
+void Draw_In_Columns(QPainter& painter, const QRect& room, const QString& text);
 
 // Where the base line is when the letters' em box, whatever line height the font asks for, lies at the top,
 // in the middle or at the bottom of the room. Moved as far as the line's ink would leave the room otherwise.
@@ -36,14 +43,6 @@ class Fitted_Label : public QLabel {
  protected:
   void paintEvent(QPaintEvent* event) override;
   bool event(QEvent* event) override;
-};
-
-// Fusion, the only style that looks alike on every desktop, with the captions of buttons and boxes fitted.
-class Fitting_Style : public QProxyStyle {
- public:
-  Fitting_Style() : QProxyStyle(QStringLiteral("fusion")) {}
-  void drawItemText(QPainter* painter, const QRect& room, int flags, const QPalette& palette, bool enabled,
-                    const QString& text, QPalette::ColorRole role) const override;
 };
 
 }  // namespace wrenbit

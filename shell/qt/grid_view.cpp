@@ -9,6 +9,7 @@
 #include "fitted_text.h"
 #include "grid_accessible.h"
 #include "look.h"
+#include "pixel_lines.h"
 
 namespace wrenbit {
 namespace {
@@ -39,10 +40,6 @@ void Grid_View::Follow() {
     row_in_sight = -1;  // A refill runs through all rows.
   else if (grid.Row() != row_in_sight)
     Show_Current_Row();
-  if (const QString why = Text_Of(grid.OutOfDate()); why != toolTip()) {
-    setToolTip(why);
-    setAccessibleDescription(why);
-  }
   viewport()->update();
 }
 
@@ -79,12 +76,20 @@ void Grid_View::Paint_Cell(QPainter& painter, const QRect& cell, int row, int co
   const bool fixed = row == 0 || col == 0;
   const bool current = !fixed && row == grid.Row() && col == grid.Col();
   painter.fillRect(cell, colour(fixed ? QPalette::Button : current ? QPalette::Highlight : QPalette::Base));
-  painter.setPen(colour(fixed ? QPalette::Mid : QPalette::Midlight));
-  painter.drawLine(cell.bottomLeft(), cell.bottomRight());
-  painter.drawLine(cell.topRight(), cell.bottomRight());
-  painter.setPen(colour(fixed ? QPalette::ButtonText : current ? QPalette::HighlightedText : QPalette::Text));
-  Draw_Fitted(painter, cell.adjusted(kPadding, 0, -kPadding, 0),
-              Qt::AlignVCenter | Side(grid.ColAlignment(col)), Text_Of(grid.Cell(row, col)));
+  const QColor lines = fixed ? Line_Colour(palette())
+                             : Mixed(palette().color(QPalette::Base), palette().color(QPalette::Text), 15);
+  Draw_Edge(painter, cell, Qt::BottomEdge, lines);
+  Draw_Edge(painter, cell, Qt::RightEdge, lines);
+  painter.setPen(fixed                 ? colour(QPalette::ButtonText)
+                 : current             ? colour(QPalette::HighlightedText)
+                 : grid.Weak(row, col) ? palette().color(QPalette::Disabled, QPalette::Text)
+                                       : colour(QPalette::Text));
+  const QRect room = cell.adjusted(kPadding, 0, -kPadding, 0);
+  const QString text = Text_Of(grid.Cell(row, col));
+  if (!fixed && grid.ColAlignment(col) == Alignment::Left)
+    Draw_In_Columns(painter, room, text);
+  else
+    Draw_Fitted(painter, room, Qt::AlignVCenter | Side(grid.ColAlignment(col)), text);
   if (!current || !hasFocus()) return;
   painter.setPen(QPen(colour(QPalette::HighlightedText), 1, Qt::DotLine));
   painter.drawRect(cell.adjusted(0, 0, -2, -2));

@@ -100,7 +100,18 @@ QFont Font_For(const Font& lettering) {
                                                         : QFont(proportional);
   font.setPixelSize(static_cast<int>(std::lround(lettering.Points * 96 / 72)));
   if (lettering.Face == Typeface::FixedPitch) font.setStyleHint(QFont::Monospace);
+  // Hinted, this family's digits end a pixel above the base line and its full stop a pixel below: a comma.
+  if (font.family() == QStringLiteral("IPAGothic")) font.setHintingPreference(QFont::PreferNoHinting);
   return font;
+}
+
+QColor Mixed(const QColor& from, const QColor& to, int percent) {
+  const auto part = [=](int a, int b) { return a + (b - a) * percent / 100; };
+  return QColor(part(from.red(), to.red()), part(from.green(), to.green()), part(from.blue(), to.blue()));
+}
+
+QColor Line_Colour(const QPalette& palette) {
+  return Mixed(palette.color(QPalette::Window), palette.color(QPalette::Active, QPalette::WindowText), 33);
 }
 
 }  // namespace wrenbit

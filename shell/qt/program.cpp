@@ -10,11 +10,11 @@
 #include "app.h"
 #include "end_signals.h"
 #include "file_dialog.h"
-#include "fitted_text.h"
 #include "look.h"
 #include "mscomm.h"
 #include "pictures.h"
 #include "platform.h"
+#include "program_style.h"
 #include "settings.h"
 #include "start.h"
 #include "windows.h"
@@ -58,7 +58,7 @@ Program::Program(int& argc, char** argv)
   QApplication::setApplicationName(QString::fromStdString(App.Title));
   QApplication::setDesktopFileName(
       QApplication::applicationName());  // By it a dock finds the menu entry's icon.
-  QApplication::setStyle(new Fitting_Style);
+  QApplication::setStyle(new Program_Style);
   QApplication::setFont(Font_For({}));
   QApplication::setWindowIcon(Icon_Of(Picture::Program));
   // When the last window goes, the logic says whether the program ends.

@@ -1,0 +1,90 @@
+#include "program_style.h"
+
+#include <QPainter>
+#include <QStyleOption>
+#include <algorithm>
+#include <cmath>
+
+#include "fitted_text.h"
+#include "look.h"
+#include "pixel_lines.h"
+
+namespace wrenbit {
+namespace {
+
+constexpr double kLeastContrast = 4.5;
+
+// WCAG 2.1, "relative luminance" and "contrast ratio".
+double Luminance(const QColor& colour) {
+  const auto linear = [](double part) {
+    return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+  };
+  return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) + 0.0722 * linear(colour.blueF());
+}
+
+double Contrast(const QColor& one, const QColor& other) {
+  const auto [dark, light] = std::minmax({Luminance(one), Luminance(other)});
+  return (light + 0.05) / (dark + 0.05);
+}
+
+// As near to the background as can still be read on it.
+QColor Greyed(const QColor& letters, const QColor& background) {
+  for (int percent = 60; percent > 0; --percent)
+    if (const QColor grey = Mixed(letters, background, percent); Contrast(grey, background) >= kLeastContrast)
+      return grey;
+  return letters;
+}
+
+}  // namespace
+
+void Program_Style::polish(QPalette& palette) {
+  QProxyStyle::polish(palette);
+  const auto live = [&](QPalette::ColorRole role) { return palette.color(QPalette::Active, role); };
+  const QColor highlight = Mixed(live(QPalette::Window), live(QPalette::WindowText), 15);
+  palette.setColor(QPalette::Disabled, QPalette::Highlight, highlight);
+  palette.setColor(QPalette::Disabled, QPalette::HighlightedText,
+                   Greyed(live(QPalette::WindowText), highlight));
+  // Texts lie on the window or on the base, of which the window's colour is the nearer one to theirs.
+  for (const auto& [letters, background] : {std::pair{QPalette::WindowText, QPalette::Window},
+                                            {QPalette::Text, QPalette::Window},
+                                            {QPalette::ButtonText, QPalette::Button}})
+    palette.setColor(QPalette::Disabled, letters, Greyed(live(letters), live(background)));
+}
+
+int Program_Style::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                             QStyleHintReturn* answer) const {
+  // A list drops down below its box, with a scroll bar, in place of covering the screen.
+  if (hint == SH_ComboBox_Popup) return 0;
+  return QProxyStyle::styleHint(hint, option, widget, answer);
+}
+
+void Program_Style::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                                const QWidget* widget) const {
+  const auto* frame = qstyleoption_cast<const QStyleOptionFrame*>(option);
+  if (element != CE_ShapedFrame || !frame ||
+      (frame->frameShape != QFrame::Panel && frame->frameShape != QFrame::StyledPanel))
+    return QProxyStyle::drawControl(element, option, painter, widget);
+  Draw_Frame(*painter, frame->rect, Line_Colour(frame->palette));
+}
+
+void Program_Style::drawItemText(QPainter* painter, const QRect& room, int flags, const QPalette& palette,
+                                 bool enabled, const QString& text, QPalette::ColorRole role) const {
+  if (flags & Qt::TextWordWrap || text.contains('\n'))
+    return QProxyStyle::drawItemText(painter, room, flags, palette, enabled, text, role);
+  const QFont font = painter->font();
+  const auto width = [&](const QFont& letters) {
+    return QFontMetrics(letters).size(flags | Qt::TextSingleLine, text).width();
+  };
+  const QFont letters = Widest_That_Fits(font, room.width(), width);
+  const QFontMetrics metrics(letters);
+  const int base_line = Base_Line(text, letters, room, Qt::Alignment(flags & Qt::AlignVertical_Mask));
+  const bool fits = width(letters) <= room.width();
+  painter->setFont(letters);
+  QProxyStyle::drawItemText(
+      painter, QRect(room.left(), base_line - metrics.ascent(), room.width(), metrics.height()),
+      (flags & ~int{Qt::AlignVertical_Mask}) | Qt::AlignTop | Qt::TextSingleLine | Qt::TextDontClip, palette,
+      enabled, fits ? text : metrics.elidedText(text, Qt::ElideRight, room.width(), flags), role);
+  painter->setFont(font);
+}
+
+}  // namespace wrenbit
