@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "c24_block.h"
 #include "number_text.h"
 #include "text_field_reader.h"
 #include "utf8_text.h"
@@ -20,7 +21,15 @@ constexpr std::array<Number_Column, 5> kNumberColumns{{{kFamily, "ファミリ"}
                                                        {kAddressMode, "アドレスモード"},
                                                        {kAddressBits, "アドレスビット数"}}};
 
-bool Holds_Number_Or_Nothing(const std::string& cell) { return cell.empty() || Whole_Number(cell); }
+// What is wrong with a number cell; empty when nothing is. A row may be short: a missing cell is no fault.
+std::string Fault(const Device_Row& row, Device_Column column) {
+  const std::string& cell = row[column];
+  if (cell.empty()) return "";
+  if (!Whole_Number(cell)) return "数値ではありません。0とします。";
+  if (column == kPageSize && Number_Cell(row, kFamily) == 2 && !C24_Page_Usable(Number_Cell(row, column)))
+    return "2の累乗ではありません。Block Writeはできません。";
+  return "";
+}
 
 // A message box shows all that it is given.
 std::string Clipped(std::string_view text) { return std::string(First_Characters(text, 20)); }
@@ -37,10 +46,9 @@ void Add_Row(Catalogue& catalogue, std::string_view record, int line) {
   Device_Row row;
   std::copy_n(cells.begin(), kTableColumns, row.begin());
   for (const auto& [column, name] : kNumberColumns)
-    if (const std::string& cell = row[column]; !Holds_Number_Or_Nothing(cell))
+    if (const std::string fault = Fault(row, column); !fault.empty())
       catalogue.Problems.push_back(Line_Text(line) + Clipped(row[kName]) + " の列" + std::to_string(column) +
-                                   " (" + name + ") の \"" + Clipped(cell) +
-                                   "\" は数値ではありません。0とします。");
+                                   " (" + name + ") の \"" + Clipped(row[column]) + "\" は" + fault);
   catalogue.Rows.push_back(std::move(row));
 }
 

@@ -48,7 +48,8 @@ std::array<std::string, kLineCells> Split_Line(std::string_view record);
 struct Catalogue {
   std::vector<Device_Row> Rows;       // At most kTableRows.
   std::string Version;                // The last version record, trimmed.
-  std::vector<std::string> Problems;  // One line each, in Japanese: rows left out, numbers that are none.
+  std::vector<std::string> Problems;  // One line each, in Japanese: rows left out, numbers that are none,
+                                      // pages by which no block can be written.
 };
 
 // What is read no further is no catalogue but some other file, perhaps a very large one.

@@ -1,5 +1,6 @@
 #include "c24_block.h"
 
+#include <bit>
 #include <cstddef>
 #include <cstdint>
 
@@ -57,6 +58,10 @@ std::int32_t Write_Page(std::int32_t address, std::int32_t last, Block_Progress&
 
 }  // namespace
 
+bool C24_Page_Usable(std::int32_t bytes) {
+  return bytes > 0 && std::has_single_bit(static_cast<std::uint32_t>(bytes));
+}
+
 void C24_AllRead() {
   if (C24_Refused() || !Begin()) return;
   const std::int32_t last = Clamp_Block();
@@ -80,7 +85,7 @@ void C24_AllRead() {
 
 void C24_AllWrite() {
   if (C24_Refused()) return;
-  if (PageSize < 1) return Fail("デバイスのページサイズが正しくありません。");
+  if (!C24_Page_Usable(PageSize)) return Fail("デバイスのページサイズが正しくありません。");
   if (!Begin()) return;
   const std::int32_t last = Clamp_Block();
   Block_Progress progress(last);

@@ -4,13 +4,20 @@
 // A block size above the chip's is corrected for good, in CmbSize and its stored setting.
 #pragma once
 
+#include <cstdint>
+
 namespace wrenbit {
+
+// A power of two. Frames of any other length run across the ends of the chip's pages, and what is behind such
+// an end overwrites the page's start.
+bool C24_Page_Usable(std::int32_t bytes);
 
 // Into an image that the caller has made anew. On failure it holds what was read up to and including the byte
 // in hand, which is not to be trusted. Leaves the refilling of the grid to the caller.
 void C24_AllRead();
 
-// Page by page; on failure the chip is partly written, and the image as it was. Nothing is read back.
+// Page by page; refused when the device's page is not usable. On failure the chip is partly written, and the
+// image as it was. Nothing is read back.
 void C24_AllWrite();
 
 }  // namespace wrenbit

@@ -48,11 +48,16 @@ TEST(Catalogue_Text, ALineSplitsAtBlanksAndAtItsFirstEquals) {
 }
 
 TEST(Catalogue_Text, BadRowsAreToldWithLineAndColumnAndReadAsZero) {
-  const Catalogue catalogue = Read_Catalogue("; head\nA x 2 big 8\nB\nC x 2 8 8 1.5 99999999999\n");
+  const Catalogue catalogue = Read_Catalogue(
+      "; head\nA x 2 big 8\nB\nC x 2 8 8 1.5 99999999999\n"
+      "D x 2 8 12\nE x 2 8 -2147483648\nF x 2 8 512\nG x 3 8 12\n");
   const std::string no_number = " は数値ではありません。0とします。";
+  const std::string no_page = " は2の累乗ではありません。Block Writeはできません。";
   EXPECT_EQ(catalogue.Problems, (Texts{"2行目: A の列3 (メモリサイズ) の \"big\"" + no_number,
                                        "4行目: C の列5 (アドレスモード) の \"1.5\"" + no_number,
-                                       "4行目: C の列6 (アドレスビット数) の \"99999999999\"" + no_number}));
+                                       "4行目: C の列6 (アドレスビット数) の \"99999999999\"" + no_number,
+                                       "5行目: D の列4 (ページサイズ) の \"12\"" + no_page,
+                                       "6行目: E の列4 (ページサイズ) の \"-2147483648\"" + no_page}));
   EXPECT_EQ(Number_Cell(catalogue.Rows[0], kMemSize), 0);
   EXPECT_EQ(Number_Cell(catalogue.Rows[0], kPageSize), 8);
 }

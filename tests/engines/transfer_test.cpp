@@ -146,9 +146,9 @@ TEST(Transfer_Failure, ARowThatCannotBeRightIsRefusedBeforeThePortIsTouched) {
     int Family, MemSize, PageSize, AddressMode, AddressBits;
     const char* Error;
   } rows[] = {{2, 0, 8, 1, 0, kSize}, {2, 12, 32, 1, 0, kSize}, {2, 18, 128, 2, 0, kSize},
-              {2, 8, 0, 1, 0, kPage}, {2, 8, -8, 1, 0, kPage},  {3, 7, 1, 0, 1, kBits},
-              {3, 7, 1, 0, 2, kSize}, {3, 7, 1, 0, 17, kBits},  {3, 7, 1, 0, 6, kSize},
-              {0, 8, 8, 1, 0, ""},    {7, 8, 8, 1, 0, ""}};
+              {2, 8, 0, 1, 0, kPage}, {2, 8, 6, 1, 0, kPage},   {2, 8, -8, 1, 0, kPage},
+              {3, 7, 1, 0, 1, kBits}, {3, 7, 1, 0, 2, kSize},   {3, 7, 1, 0, 17, kBits},
+              {3, 7, 1, 0, 6, kSize}, {0, 8, 8, 1, 0, ""},      {7, 8, 8, 1, 0, ""}};
   for (const auto& row : rows)
     for (const Command& command : kCommands) {
       if (row.Error == kPage && command.Run != Cmd_WRITE_all_Click) continue;
