@@ -15,6 +15,7 @@
 namespace wrenbit {
 namespace {
 
+constexpr std::string_view kByteOrderMark = "\uFEFF";
 constexpr std::size_t kNameWidth = 9;  // Fixed-pitch characters before the second word.
 
 void Show_Version() {
@@ -39,10 +40,16 @@ void List_Devices() {
 
 }  // namespace
 
+std::string Catalogue_Text(std::string_view bytes) {
+  bytes = bytes.substr(0, bytes.find('\x1A'));
+  if (bytes.starts_with(kByteOrderMark)) return std::string(bytes.substr(kByteOrderMark.size()));
+  return Utf8_From_Cp932(bytes);
+}
+
 bool Load_Catalogue(std::vector<std::string>& problems) {
   const std::optional<std::string> file = Read_Whole_File(AppFolder + kCatalogueName);
   if (!file) return false;
-  Catalogue catalogue = Read_Catalogue(Utf8_From_Cp932(*file));
+  Catalogue catalogue = Read_Catalogue(Catalogue_Text(*file));
   if (catalogue.Rows.empty()) return false;
   DeviceTable = std::move(catalogue.Rows);
   CatalogueVersionText = std::move(catalogue.Version);

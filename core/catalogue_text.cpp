@@ -21,10 +21,22 @@ constexpr std::array<Number_Column, 5> kNumberColumns{{{kFamily, "ファミリ"}
                                                        {kAddressMode, "アドレスモード"},
                                                        {kAddressBits, "アドレスビット数"}}};
 
+// Where "-" may stand.
+bool Unused(const Device_Row& row, Device_Column column) {
+  switch (Number_Cell(row, kFamily)) {
+    case 2:
+      return column == kAddressBits;
+    case 3:
+      return column == kPageSize || column == kAddressMode;
+    default:
+      return false;
+  }
+}
+
 // What is wrong with a number cell; empty when nothing is. A row may be short: a missing cell is no fault.
 std::string Fault(const Device_Row& row, Device_Column column) {
   const std::string& cell = row[column];
-  if (cell.empty()) return "";
+  if (cell.empty() || (cell == "-" && Unused(row, column))) return "";
   if (!Whole_Number(cell)) return "数値ではありません。0とします。";
   if (column == kPageSize && Number_Cell(row, kFamily) == 2 && !C24_Page_Usable(Number_Cell(row, column)))
     return "2の累乗ではありません。Block Writeはできません。";

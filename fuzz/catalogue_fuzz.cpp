@@ -7,8 +7,8 @@
 #include <string_view>
 #include <utility>
 
+#include "catalogue.h"
 #include "catalogue_text.h"
-#include "code_page_932.h"
 #include "frm_main.h"
 #include "image_buffer.h"
 #include "must_hold.h"
@@ -44,7 +44,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   frmMain.Ensure_Loaded();
 
   const std::string_view bytes(reinterpret_cast<const char*>(data), size);
-  Catalogue catalogue = Read_Catalogue(Utf8_From_Cp932(bytes));
+  Catalogue catalogue = Read_Catalogue(Catalogue_Text(bytes));
   Must_Hold(catalogue.Rows.size() <= kTableRows, "the table holds the rows");
   DeviceTable = std::move(catalogue.Rows);
   frmMain.Combo_device.Clear();

@@ -6,8 +6,8 @@
 #include <set>
 #include <string>
 
+#include "catalogue.h"
 #include "catalogue_text.h"
-#include "code_page_932.h"
 #include "make_chip.h"
 #include "state.h"
 #include "temporary_folder.h"
@@ -16,7 +16,7 @@ namespace wrenbit {
 namespace {
 
 TEST(Delivered_Catalogue, IsWholeAndAgreesWithTheDataSheets) {
-  const Catalogue catalogue = Read_Catalogue(Utf8_From_Cp932(Content(WRENBIT_INI)));
+  const Catalogue catalogue = Read_Catalogue(Catalogue_Text(Content(WRENBIT_INI)));
   EXPECT_TRUE(catalogue.Problems.empty());
   EXPECT_TRUE(catalogue.Version.starts_with("Ver "));
   std::multiset<std::string> names;

@@ -6,9 +6,9 @@
 #include <string>
 #include <vector>
 
+#include "catalogue.h"
 #include "catalogue_text.h"
 #include "chip_bench.h"
-#include "code_page_932.h"
 #include "same_bytes.h"
 #include "state.h"
 #include "temporary_folder.h"
@@ -26,7 +26,7 @@ void PrintTo(const Case& c, std::ostream* out) { *out << c.Row[kName] << "_" << 
 
 std::vector<Case> All_Cases() {
   std::vector<Case> cases;
-  for (const Device_Row& row : Read_Catalogue(Utf8_From_Cp932(Content(WRENBIT_INI))).Rows)
+  for (const Device_Row& row : Read_Catalogue(Catalogue_Text(Content(WRENBIT_INI))).Rows)
     for (const char* firmware : {"4.90", "5.00"}) cases.push_back({row, firmware});
   return cases;
 }
