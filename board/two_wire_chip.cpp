@@ -80,7 +80,7 @@ void Two_Wire_Chip::On_Clock(bool bit) {
         break;
       }
       PullsSda = false;
-      Pointer = (Pointer + 1) % Part.Bytes;
+      Count_On(Part.ReadRun);
       State = Phase::kAnswer;
       break;
 
@@ -110,11 +110,13 @@ bool Two_Wire_Chip::Accept(std::uint8_t byte) {
 
     case Meaning::kData:  // The counter runs round in its page; in a page of one byte it stands.
       Page[Pointer] = byte;
-      Pointer = Pointer / Part.Page * Part.Page + (Pointer + 1) % Part.Page;
+      Count_On(Part.Page);
       break;
   }
   return true;
 }
+
+void Two_Wire_Chip::Count_On(std::size_t round) { Pointer = Pointer / round * round + (Pointer + 1) % round; }
 
 void Two_Wire_Chip::Listen() {
   Bits = 0;

@@ -30,6 +30,7 @@ class Two_Wire_Chip : public Chip {
   void On_Clock(bool bit);
 
   bool Accept(std::uint8_t byte);
+  void Count_On(std::size_t round);
   void Listen();
   void Send_Cell();
   void Stand_By();

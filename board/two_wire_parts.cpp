@@ -8,10 +8,12 @@
 //   24C16           1 0 1 0   a10  a9   a8 R/W
 //   24C32 to 24C512 1 0 1 0   A2   A1   A0 R/W
 //   24C1024         1 0 1 0   0    A1  a16 R/W
+//   24LC1026        1 0 1 0   A2   A1  a16 R/W    a sequential read goes round in each 64 KiB
 //
 // Parts without a maker's prefix stand for all makers: the smallest page on current parts of the number,
-// Microchip's write time. Sources: data sheets of Atmel (AT24Cxx, AT24C1024), Microchip (24xx00, 24LC01B to
-// 24LC512, 24LC1026), ST (M24Cxx), onsemi (CAT24Cxx) and Rohm (BR24Txx).
+// Microchip's write time. The 24C1024 has the 24LC1026's page, the smallest at its size, and reads on across
+// all its cells as the others do. Sources: data sheets of Atmel (AT24Cxx, AT24C1024), Microchip (24xx00,
+// 24LC01B to 24LC512, 24LC1026), ST (M24Cxx), onsemi (CAT24Cxx) and Rohm (BR24Txx).
 #include "two_wire_parts.h"
 
 namespace board {
@@ -22,8 +24,8 @@ constexpr double kMs = 1e-3;
 
 // clang-format off
 constexpr Two_Wire_Part kTwoWireParts[] = {
-    // name        bytes  page  address  carries   wants  write
-    //                          bytes    address   low    cycle
+    // name        bytes  page  address  carries   wants  write    read
+    //                          bytes    address   low    cycle    run
     {"24C00",         16,    1, 1,       0b0000, 0b0000,  4 * kMs},
     {"24C01",        128,    8, 1,       0b0000, 0b1110,  5 * kMs},
     {"24C02",        256,    8, 1,       0b0000, 0b1110,  5 * kMs},
@@ -53,6 +55,7 @@ constexpr Two_Wire_Part kTwoWireParts[] = {
     {"AT24C256",   32768,   64, 2,       0b0000, 0b1110, 10 * kMs},
     {"AT24C512",   65536,  128, 2,       0b0000, 0b1110, 10 * kMs},
     {"AT24C1024", 131072,  256, 2,       0b0010, 0b1100, 10 * kMs},
+    {"24LC1026",  131072,  128, 2,       0b0010, 0b1100,  5 * kMs, 65536},
 };
 // clang-format on
 

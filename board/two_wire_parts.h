@@ -16,6 +16,7 @@ struct Two_Wire_Part {
   std::uint8_t ControlAddress;  // Bits of the control byte that carry the top of the address.
   std::uint8_t ControlZero;     // Bits of the control byte that the chip wants low.
   double WriteCycle;            // Seconds at most; the model always takes them all.
+  std::size_t ReadRun = Bytes;  // Bytes in which a sequential read goes round, a power of two.
 };
 
 // The plain numbers first, then the makers' own, each in order of size.
