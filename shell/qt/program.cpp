@@ -3,13 +3,13 @@
 #include <QDir>
 #include <QLibraryInfo>
 #include <QStandardPaths>
-#include <QSysInfo>
 #include <QTranslator>
 
 #include "accessibility.h"
 #include "app.h"
 #include "end_signals.h"
 #include "file_dialog.h"
+#include "instance_lock.h"
 #include "look.h"
 #include "mscomm.h"
 #include "pictures.h"
@@ -30,19 +30,6 @@ void Order_Tabs(const Form_View& window) {
     QWidget::setTabOrder(window.View_Of(*before), window.View_Of(*bit));
 }
 
-// Takes the lock, unless another process of this machine's holds it. A lock that names no process, or one of
-// another machine, was left behind by a crash or came with a copied folder: it must not keep the program from
-// ever starting.
-bool Another_Lives(QLockFile& lock) {
-  lock.setStaleLockTime(0);  // However old, it holds as long as its process lives.
-  if (lock.tryLock() || lock.error() != QLockFile::LockFailedError) return false;
-  qint64 process = 0;
-  QString machine, name;
-  if (lock.getLockInfo(&process, &machine, &name) && machine == QSysInfo::machineHostName()) return true;
-  lock.removeStaleLockFile();
-  return !lock.tryLock();
-}
-
 }  // namespace
 
 QString Config_Folder() {
@@ -51,7 +38,6 @@ QString Config_Folder() {
 
 Program::Program(int& argc, char** argv)
     : application(argc, argv),
-      instance(Config_Folder() + QStringLiteral("/instance.lock")),
       settings(Config_Folder() + QStringLiteral("/settings.ini")),
       serial((Config_Folder() + QStringLiteral("/ports")).toStdString()) {
   Install_Accessibility();
@@ -71,7 +57,7 @@ Program::Program(int& argc, char** argv)
   App.Path = QApplication::applicationDirPath().toStdString();
   App.HelpFile = App.Path + "/WRENBIT.HLP";
   QDir().mkpath(Config_Folder());
-  App.PrevInstance = Another_Lives(instance);
+  App.PrevInstance = !Claim_Instance((Config_Folder() + QStringLiteral("/instance.lock")).toStdString());
 
   ThePlatform = &platform;
   TheSettings = &settings;

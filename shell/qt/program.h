@@ -3,7 +3,6 @@
 #pragma once
 
 #include <QApplication>
-#include <QLockFile>
 #include <memory>
 
 #include "form_view.h"
@@ -34,7 +33,6 @@ class Program {
   void Make_Windows();
 
   QApplication application;
-  QLockFile instance;
   Qt_Platform platform;
   Qt_Settings settings;
   Qt_Serial serial;

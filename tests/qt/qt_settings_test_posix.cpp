@@ -4,6 +4,7 @@
 #include <map>
 #include <string>
 
+#include "instance_lock.h"
 #include "number_text.h"
 #include "plain_user_posix.h"
 #include "qt_settings.h"
@@ -20,6 +21,13 @@ struct Settings : testing::Test {
 
   static Qt_Settings Store(const std::string& file) { return Qt_Settings(QString::fromStdString(file)); }
 };
+
+TEST_F(Settings, TheLockBesideThemHasOneOwnerWhateverAFileLeftBehindNames) {
+  Put_Content(folder / "instance.lock", "1\nwrenbit\nthe machine's old name\n");
+  EXPECT_TRUE(Claim_Instance(folder / "instance.lock"));
+  EXPECT_FALSE(Claim_Instance(folder / "instance.lock"));
+  EXPECT_TRUE(Claim_Instance(folder.Path())) << "where there can be none";
+}
 
 // Qt reads a file once for all stores of a process, so the next run is given a copy.
 TEST_F(Settings, EveryTextIsWrittenAtOnceAndComesBackInTheNextRun) {
