@@ -2,8 +2,7 @@
 
 #include <QPainter>
 #include <QStyleOption>
-#include <algorithm>
-#include <cmath>
+#include <utility>
 
 #include "fitted_text.h"
 #include "look.h"
@@ -13,19 +12,6 @@ namespace wrenbit {
 namespace {
 
 constexpr double kLeastContrast = 4.5;
-
-// WCAG 2.1, "relative luminance" and "contrast ratio".
-double Luminance(const QColor& colour) {
-  const auto linear = [](double part) {
-    return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
-  };
-  return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) + 0.0722 * linear(colour.blueF());
-}
-
-double Contrast(const QColor& one, const QColor& other) {
-  const auto [dark, light] = std::minmax({Luminance(one), Luminance(other)});
-  return (light + 0.05) / (dark + 0.05);
-}
 
 // As near to the background as can still be read on it.
 QColor Greyed(const QColor& letters, const QColor& background) {

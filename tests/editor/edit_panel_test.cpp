@@ -143,6 +143,14 @@ TEST_F(Edit_Panel, AnEditShowsItsWholeRowByItsOwnRule) {
   EXPECT_EQ(Row_Text(), "･,\" ,\x7F･\u00A0ﾟ･･･････");
 }
 
+TEST_F(Edit_Panel, AfterAReadThatFailedAnEditBringsBoxesBitsAndChecksumUpToDateAndNotTheGrid) {
+  Grid_Out_Of_Date();
+  EXPECT_FALSE(frmMain.ChkBin[0].OutOfDate().empty());
+  Enter(In::Hex, "2C");
+  EXPECT_EQ(frmMain.ChkBin[0].OutOfDate() + frmMain.LblCheckSUM.OutOfDate(), "");
+  EXPECT_FALSE(frmMain.MSFGrid1.OutOfDate().empty());
+}
+
 // The arrow keys move the current cell and tell the panel nothing.
 TEST_F(Edit_Panel, AnEditGoesToTheCellThatIsCurrentNow) {
   Select(0x41);

@@ -43,6 +43,27 @@ TEST(Block_Transfer, ThePercentageMovesAtEachWholeNumberAndTheTimeTakenIsInWhole
   }
 }
 
+TEST(Block_Transfer, WhatABlockReadLeftOutIsToldBeforeAndSeenAfterIt) {
+  Chip_Bench bench("24C16", "5.00");
+  EXPECT_EQ(frmMain.CmbSize.ToolTipText(), "ブロック: 全 2048 バイト");
+  frmMain.CmbSize.Set_ListIndex(1);
+  EXPECT_EQ(frmMain.Cmd_READ_all.ToolTipText(),
+            "2048 バイト中、先頭の 32 バイトをチップから読み出します。残りはバッファで FF になります。");
+  Cmd_READ_all_Click();
+  const FlexGrid& grid = frmMain.MSFGrid1;
+  EXPECT_FALSE(grid.Weak(2, 16));
+  EXPECT_TRUE(grid.Weak(3, 1));
+  EXPECT_FALSE(grid.ToolTipText().empty());
+  Select_Address(40);
+  Cmd_READ_single_Click();
+  EXPECT_FALSE(grid.Weak(3, 9)) << "this one did come from the chip";
+  EXPECT_TRUE(grid.Weak(3, 8));
+  frmMain.CmbSize.Set_ListIndex(7);
+  Cmd_READ_all_Click();
+  EXPECT_FALSE(grid.Weak(128, 1));
+  EXPECT_TRUE(grid.ToolTipText().empty());
+}
+
 TEST(Byte_Transfer, TheCellIsUpToDateAfterAReadAndTheChecksumIsNot) {
   for (const char* chip : {"24C02", "AT93C46"}) {
     SCOPED_TRACE(chip);

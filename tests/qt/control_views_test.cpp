@@ -7,6 +7,7 @@
 #include <QAccessible>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDialog>
 #include <QHelpEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -18,13 +19,17 @@
 #include <QWindow>
 #include <cstdint>
 #include <functional>
+#include <initializer_list>
 #include <memory>
 #include <string>
 
+#include "common_dialog.h"
+#include "file_dialog.h"
 #include "form_view.h"
 #include "lists_and_boxes.h"
 #include "platform.h"
 #include "status_bar.h"
+#include "temporary_folder.h"
 
 namespace wrenbit {
 namespace {
@@ -36,6 +41,7 @@ struct Sample : Form {
   CommandButton Unwired{Group, {1200, 300, 900, 600}, "Unwired"};
   CheckBox Tick{Group, {150, 1200, 900, 300}, "Tick"};
   CheckBox Fixed_Tick{Group, {1200, 1200, 900, 300}, "Fixed"};
+  CheckBox Bit{*this, {5400, 300, 195, 195}, ""};
   TextBox Box{*this, {3150, 300, 900, 240}, 3, {}};
   TextBox Fixed_Box{*this, {4200, 300, 900, 240}, 3, {}};
   ComboBox List{*this, {3150, 900, 900, 300}};
@@ -208,6 +214,57 @@ TEST_F(Views, AListFiresAlsoForTheEntryThatIsSelectedAndAsksForItsTipsWhenTheyAr
   EXPECT_EQ(list.count(), 0);
 }
 
+TEST_F(Views, ATurnOfTheWheelNeitherPicksNorTakesTheKeyboard) {
+  ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+  form.Box.Set_Focus();
+  auto& list = View<QComboBox>(form.List);
+  QWheelEvent turn({5, 5}, list.mapToGlobal(QPointF(5, 5)), {}, {0, -120}, {}, {}, Qt::NoScrollPhase, false);
+  QCoreApplication::sendEvent(&list, &turn);
+  EXPECT_TRUE(window->View_Of(form.Box)->hasFocus());
+  EXPECT_EQ(form.List.ListIndex(), -1);
+}
+
+TEST_F(Views, ALongListDropsDownWithFifteenRows) {
+  for (int i = 0; i < 40; ++i) form.List.AddItem("more");
+  auto& list = View<QComboBox>(form.List);
+  list.showPopup();
+  EXPECT_EQ(list.view()->viewport()->height() / list.view()->sizeHintForRow(0), 15);
+  list.hidePopup();
+}
+
+TEST_F(Views, ADialogOpensWithTheFocusAtItsBeginningEachTime) {
+  Form_View view(form, Form_Kind::Dialog);
+  for (int opening = 0; opening < 2; ++opening) {
+    form.Hide();
+    form.Show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&view));
+    EXPECT_EQ(view.focusWidget(), view.View_Of(form.Wired));
+    view.View_Of(form.Box)->setFocus();
+  }
+}
+
+TEST_F(Views, ANameWithoutAnExtensionOpensTheFileOfThatNameElseTheOneWithTheDefaultExtension) {
+  const Temporary_Folder folder;
+  CommonDialog dialog;
+  dialog.InitDir = folder.Path();
+  dialog.Filter = "Hex|*.HEX|";
+  dialog.DefaultExt = "HEX";
+  Offer_File_Dialogs(dialog, window.get());
+  const auto opened = [&](const char* name) {
+    QTimer::singleShot(0, [=] {
+      auto* box = dynamic_cast<QDialog*>(QApplication::activeModalWidget());
+      box->findChild<QLineEdit*>("fileNameEdit")->setText(name);
+      box->accept();
+    });
+    dialog.FileName = "*.HEX";
+    return dialog.ShowOpen() ? dialog.FileTitle : "cancelled";
+  };
+  for (const char* file : {"plain.HEX", "small.hex", "both", "both.HEX"}) Put_Content(folder / file, "");
+  for (const auto& [typed, title] :
+       {std::pair{"plain", "plain.HEX"}, {"small", "small.hex"}, {"both", "both"}})
+    EXPECT_EQ(opened(typed), title);
+}
+
 TEST_F(Views, ARepaintShowsWhatHasJustChanged) {
   const auto on_screen = [this] { return window->screen()->grabWindow(window->winId()).toImage(); };
   ThePlatform->DoEvents();
@@ -252,9 +309,10 @@ TEST_F(Views, ALabelBehindAnotherIsNotReadOut) {
   EXPECT_FALSE(behind.state().invisible);
 }
 
-TEST_F(Views, ALabelAndABoxThatAreOutOfDateAreGrey) {
+TEST_F(Views, ALabelABoxAndABitThatAreOutOfDateAreGrey) {
   form.Box.Set_Text("abc");
-  for (Control* control : {static_cast<Control*>(&form.Box), static_cast<Control*>(&form.Above)}) {
+  form.Bit.Set_Value(1);
+  for (Control* control : std::initializer_list<Control*>{&form.Box, &form.Above, &form.Bit}) {
     QWidget& view = *window->View_Of(*control);
     const QImage fresh = view.grab().toImage();
     control->Set_OutOfDate("why");

@@ -4,12 +4,16 @@
 #include <QAccessible>
 #include <QApplication>
 #include <QBitmap>
+#include <QBrush>
 #include <QFontDatabase>
 #include <QImage>
 #include <QPainter>
+#include <QStyle>
 #include <algorithm>
 #include <initializer_list>
 #include <string>
+#include <tuple>
+#include <utility>
 #include <vector>
 
 #include "app.h"
@@ -98,9 +102,76 @@ TEST(Windows, WhateverIsOnThemHasARoleAndAName) {
       if ((label && label->Caption().empty()) || dynamic_cast<const Line*>(control)) continue;
       const QString name = seen->text(QAccessible::Name);
       EXPECT_FALSE(name.isEmpty() || name.contains('&')) << place;
+      if (label) {
+        EXPECT_EQ(name.toStdString(), label->Caption()) << "and not the group's caption";
+      }
       ++named;
     }
   EXPECT_GT(named, 50);
+}
+
+TEST(Windows, EachCharacterOfARowTakesOneColumnWhateverTheFontDrawsForIt) {
+  for (const QString& family : QFontDatabase::families(QFontDatabase::Japanese)) {
+    QFont font = Font_For({.Face = Typeface::FixedPitch});
+    font.setFamilies({family});
+    const double column = QFontMetricsF(font).horizontalAdvance('0');
+    const QRect room(0, 0, 150, 20);
+    const auto painted = [&](const QString& text) {
+      QImage picture(room.size(), QImage::Format_RGB32);
+      picture.fill(Qt::white);
+      QPainter painter(&picture);
+      painter.setFont(font);
+      Draw_In_Columns(painter, room, text);
+      return picture;
+    };
+    QImage all = painted(QString(16, QChar(0x7F)));
+    for (int y = 0; y < all.height(); ++y)
+      for (int x = static_cast<int>(16 * column) + 1; x < all.width(); ++x)
+        ASSERT_GE(qGray(all.pixel(x, y)), 160) << family.toStdString();
+  }
+}
+
+// At scales in between, whole logical pixels are none on the screen.
+TEST(Windows, AllLinesStandAtEveryScale) {
+  for (QWidget* window : QApplication::topLevelWidgets())
+    for (const double scale : {1.0, 1.25, 1.5, 1.75, 2.0})
+      for (const Control* control : std::initializer_list<const Control*>{
+               &frmMain.Frame1, &frmMain.Frame2, &frmMain.Frame3, &frmMain.MSFGrid1, &frmMain.Text_modify_dec,
+               &frmMain.ChkBin[7], &frmCom.Frame1}) {
+        const auto* form_view = dynamic_cast<Form_View*>(window);
+        const QWidget* view = form_view ? form_view->View_Of(*control) : nullptr;
+        if (!view) continue;
+        window->adjustSize();
+        QImage picture(window->size() * scale, QImage::Format_RGB32);
+        picture.setDevicePixelRatio(scale);
+        window->render(&picture);
+        const QPointF corner = QPointF(view->mapTo(window, QPoint())) * scale;
+        const QRect edges(QPoint(qRound(corner.x()), qRound(corner.y())),
+                          QPoint(qRound(corner.x() + view->width() * scale) - 1,
+                                 qRound(corner.y() + view->height() * scale) - 1));
+        // A quarter along, where no caption stands in the line.
+        const int x = edges.left() + edges.width() * 3 / 4, y = edges.top() + edges.height() * 3 / 4;
+        const QColor line = Line_Colour(view->palette());
+        EXPECT_EQ(picture.pixelColor(edges.left(), y), line) << control->At.Left << " at " << scale;
+        EXPECT_EQ(picture.pixelColor(edges.right(), y), line) << control->At.Left << " at " << scale;
+        EXPECT_EQ(picture.pixelColor(x, edges.bottom()), line) << control->At.Left << " at " << scale;
+      }
+}
+
+TEST(Windows, GreyedTextsCanBeReadInLightAndInDarkPalettes) {
+  for (const auto& [letters, window, base] :
+       {std::tuple{0x000000U, 0xEFEFEFU, 0xFFFFFFU}, {0xEEEEEEU, 0x303030U, 0x202020U}}) {
+    const QBrush pen(letters), paper(window);
+    QPalette palette(pen, paper, paper, paper, paper, pen, pen, QColor(base), paper);
+    QApplication::style()->polish(palette);
+    const auto grey = [&](QPalette::ColorRole role) { return palette.color(QPalette::Disabled, role); };
+    for (const auto& [text, background] : {std::pair{QPalette::WindowText, QPalette::Window},
+                                           {QPalette::Text, QPalette::Base},
+                                           {QPalette::ButtonText, QPalette::Button},
+                                           {QPalette::HighlightedText, QPalette::Highlight}})
+      EXPECT_GE(Contrast(grey(text), grey(background)), 4.5) << text;
+    EXPECT_GE(Contrast(grey(QPalette::WindowText), QColor(letters)), 2) << "plainly other than live ones";
+  }
 }
 
 TEST(Windows, APictureFillsTheSquareOfItsButtonAndNoMore) {
