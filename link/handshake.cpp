@@ -36,6 +36,12 @@ constexpr int kSettle = 50;      // Milliseconds from the first query to the sec
 constexpr int kSettleStep = 10;  // In which a port that goes is noticed.
 constexpr std::size_t kAnyNumber = std::numeric_limits<std::size_t>::max();
 
+// A board that sends its answer in pieces takes up to 200 ms from one to the next, and a second for all.
+constexpr double kPiecePause = 0.25;  // Seconds.
+// Seconds. One whose answer takes longer sends pieces: query and answer are 19 ms on the wire, and an adapter
+// adds up to 16.
+constexpr double kInOnePiece = 0.040;
+
 constexpr const char* kLimits256 =
     "パフォーマンスの関係で、アクセスサイズを[AllRead]=２５６バイト,[AllWrite]=２５６バイトに制限しています。"
     "[ByteRead],[ByteWrite]は制限がありません。";
@@ -117,30 +123,41 @@ std::string Shown(std::string_view bytes) {
   return shown;
 }
 
+std::string Received() {
+  const std::vector<std::uint8_t> bytes = MSComm1.Input();
+  return {bytes.begin(), bytes.end()};
+}
+
 // Asks the board what it is, twice; the second answer counts. Nothing when it is too short or does not come
 // within its second. All that the board has said is read or dropped afterwards.
 std::optional<std::string> Ask_Identity() {
-  // The first query wakes the board and clears its parser; what it says to it is dropped.
+  // The first query wakes the board and clears its parser; what it has said by then is dropped.
   Query();
   for (int slept = 0; slept < kSettle && !MSComm1.Lost(); slept += kSettleStep) Sleep(kSettleStep);
   DoEvents();
   const std::size_t first_answer = MSComm1.InBufferCount();
   const double asked = Timer();
-  if (Query()) Await_Bytes(kReplyLength);
+  if (Query()) Await_Bytes(kReplyLength, kPiecePause);
   if (MSComm1.InBufferCount() < kReplyLength) return std::nullopt;
 
-  const double answered = Timer();
-  const std::vector<std::uint8_t> reply = MSComm1.Input();
+  const double took = Timer() - asked;
+  std::string said = Received();
   // What of the answer is still to come must not pass for the reply to the next command.
-  if (first_answer >= kReplyLength) {
-    MSComm1.Learn_Pace(1 + kReplyLength, answered - asked);
-    Await_Rest(first_answer - std::min(first_answer, reply.size()));
+  const bool in_pieces = took > kInOnePiece || (first_answer > 0 && first_answer < kReplyLength);
+  const double pause = in_pieces ? kPiecePause : kPause;
+  if (first_answer >= kReplyLength && said.starts_with(kWord)) {
+    MSComm1.Learn_Pace(1 + kReplyLength, took);
+    Await_Rest(first_answer - std::min(first_answer, said.size()), pause);
   } else {  // A first answer that comes late could pass for a fast second one.
-    Await_Rest(kAnyNumber);
+    Await_Rest(kAnyNumber, pause);
   }
-  MSComm1.Clear_InBuffer();
+  said += Received();
   MSComm1.Forget_Unasked();
-  return std::string(reply.begin(), reply.begin() + kTextLength);
+
+  // What was left of a first answer stands before the second.
+  if (const std::size_t word = said.find(kWord); first_answer > 0 && word != said.npos) said.erase(0, word);
+  if (said.size() < kReplyLength) return std::nullopt;
+  return said.substr(0, kTextLength);
 }
 
 }  // namespace

@@ -10,24 +10,25 @@ namespace wrenbit {
 namespace {
 
 constexpr double kReplyLimit = 1.0;  // Seconds.
-constexpr double kPause = 0.020;     // Seconds. Longer than an adapter that bundles its bytes is silent.
 
 }  // namespace
 
-void Await_Bytes(std::size_t count) {
+void Await_Bytes(std::size_t count, double pause) {
   WaitStart = Timer();
-  while (MSComm1.InBufferCount() < count && !MSComm1.Lost()) {
-    const double left = WaitStart + kReplyLimit - Timer();
+  double limit = WaitStart + kReplyLimit;
+  for (std::size_t seen = 0, now; (now = MSComm1.InBufferCount()) < count && !MSComm1.Lost(); seen = now) {
+    if (now != seen) limit = std::max(limit, Timer() + pause);
+    const double left = limit - Timer();
     if (left < 0) return;
     ThePlatform->Await_Event(left);
   }
 }
 
-void Await_Rest(std::size_t count) {
-  const double limit = Timer() + kReplyLimit;
+void Await_Rest(std::size_t count, double pause) {
+  const double limit = Timer() + kReplyLimit + pause;
   double heard = Timer();
   for (std::size_t seen = 0; seen < count;) {
-    const double left = std::min(heard + kPause, limit) - Timer();
+    const double left = std::min(heard + pause, limit) - Timer();
     if (left <= 0) return;
     ThePlatform->Await_Event(left);
     const std::size_t now = MSComm1.InBufferCount();

@@ -82,6 +82,19 @@ TEST_F(Handshake_Test, NoPartOfALongAnswerIsTakenForTheNextReply) {
     }
 }
 
+TEST_F(Handshake_Test, AnAnswerInPiecesIsServedAndNoneOfItTakenForTheNextReply) {
+  for (const double from_byte_to_byte : {0.004, 0.02, 0.05}) {
+    SCOPED_TRACE(bench.ByteTime = from_byte_to_byte);
+    Answer("TOLVEX fw. 5.00\r\n..");
+    board.Replies.push_back({3, {0x42}});
+    Read_Version();
+    EXPECT_EQ(Panel(2), "COM1 : TOLVEX fw. 5.00");
+    EXPECT_EQ(Link_ReadPortA(), 0x42);
+    EXPECT_EQ(LinkError, 0);
+    EXPECT_EQ(MSComm1.Unasked(), 0U);
+  }
+}
+
 TEST_F(Handshake_Test, TellsAVirtualPortFromAWireByItsSecondAnswerAlone) {
   bench.ByteTime = 1e-5;
   for (const double first_is_late : {0.0, 0.052}) {
