@@ -9,6 +9,7 @@
 #include "cell_selection.h"
 #include "failure.h"
 #include "frm_main.h"
+#include "handshake.h"
 #include "hex_grid.h"
 #include "image_buffer.h"
 #include "mscomm.h"
@@ -48,6 +49,7 @@ void Command_Lock() {
 void Command_Unlock() {
   Set_Commands_Enabled(true);
   frmMain.Text_modify_hex.Set_Focus();
+  if (MSComm1.Lost()) Tell_Port_Gone();
   MSComm1.Close();
   TransferRunning = 0;
   if (CloseWhenIdle) frmMain.Unload();

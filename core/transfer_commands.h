@@ -8,8 +8,8 @@ namespace wrenbit {
 // LinkError. Not nested.
 void Command_Lock();
 
-// Gives them back, puts the focus into the hex box and closes the port, whatever the outcome. A window that
-// was told to close meanwhile closes now.
+// Gives them back, puts the focus into the hex box and closes the port, whatever the outcome; where the port
+// has gone, panels 1 and 2 tell. A window that was told to close meanwhile closes now.
 void Command_Unlock();
 
 // Into a blank image; the grid follows only when the whole block came. The image is blanked before anything

@@ -80,9 +80,13 @@ Port_Choice Chosen_Port() {
   return {*index + 1, std::to_string(*index + 1)};
 }
 
+void Show_No_Board(const std::string& port) {
+  frmMain.sbStatusBar.Set_Panel(2, "COM" + port + " : ライター未接続");
+}
+
 // No board that is known: `why` goes behind the words that say so.
 void Fail_Without_Board(const Port_Choice& port, const std::string& why) {
-  frmMain.sbStatusBar.Set_Panel(2, "COM" + port.Text + " : ライター未接続");
+  Show_No_Board(port.Text);
   Fail("プログラマ接続確認エラー。" + why);
 }
 
@@ -179,6 +183,13 @@ void Read_Version() {
   // No number counts as 0: port commands work with every board.
   ProgrammerVersion = static_cast<float>(Decimal_Number(identity->substr(kVersionAt)).value_or(0));
   frmMain.Lbl_memo.Set_Caption(Limits_Text());
+}
+
+void Tell_Port_Gone() {
+  const std::string gone = Reason(Port_Fault::Gone);
+  const std::string& told = frmMain.sbStatusBar.Panel(1);
+  if (!told.ends_with(gone)) frmMain.sbStatusBar.Set_Panel(1, told + (told.empty() ? "" : " ") + gone);
+  Show_No_Board(std::to_string(MSComm1.CommPort));
 }
 
 }  // namespace wrenbit

@@ -1,4 +1,4 @@
-// The handshake before every transfer.
+// The handshake before every transfer, and what is told when its port goes away.
 #pragma once
 
 namespace wrenbit {
@@ -10,5 +10,9 @@ namespace wrenbit {
 // LinkError is 0 afterwards exactly when a known board has answered; else panels 1 and 2 tell what failed.
 // The port may be open in either case: Command_Unlock closes it.
 void Read_Version();
+
+// The open port has gone: panel 1 says so behind what it says already, unless that is it, and panel 2 shows
+// no board any more.
+void Tell_Port_Gone();
 
 }  // namespace wrenbit

@@ -11,6 +11,14 @@ constexpr double kWireByteTime = 10.0 / 9600;  // Start bit, eight data bits, st
 
 }  // namespace
 
+void MSComm::Attach(Serial_Backend* port) {
+  backend = port;
+  if (!port) return;
+  port->On_Lost = [this] {
+    if (open && Gone) Gone();
+  };
+}
+
 Port_Fault MSComm::Open() {
   Close();
   const Port_Fault fault = backend ? backend->Open(CommPort, RTSEnable, DTREnable) : Port_Fault::No_Such_Port;

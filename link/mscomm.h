@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <span>
 #include <vector>
@@ -41,6 +42,9 @@ class Serial_Backend {
   // Goes out at once and in one piece. False when the port is lost or the system refuses, which may take a
   // tenth of a second: a part of these bytes may have gone out then, and the rest never does.
   virtual bool Write(std::span<const std::uint8_t> bytes) = 0;
+
+  // Called once, from the event loop, when the open port has gone away.
+  std::function<void()> On_Lost;
 };
 
 class MSComm {
@@ -48,7 +52,7 @@ class MSComm {
   static constexpr std::size_t kOutBufferSize = 512;  // Bytes.
 
   // The backend outlives its use here.
-  void Attach(Serial_Backend* port) { backend = port; }
+  void Attach(Serial_Backend* port);
 
   int CommPort = 1;
   // Take effect at the next open.
@@ -59,6 +63,8 @@ class MSComm {
   Port_Fault Open();
   void Close();
   bool Lost() { return open && backend->Lost(); }
+  // Fires once, from the event loop, when the open port has gone away.
+  std::function<void()> Gone;
   std::optional<Serial_Device> Device(int number) const;
 
   // On a closed port there is nothing to read, and nothing goes out.

@@ -69,7 +69,9 @@ bool Qt_Serial::Lost() {
     QMetaObject::invokeMethod(
         &port,
         [this] {
-          if (lost) port.close();
+          if (!lost || !port.isOpen()) return;
+          port.close();
+          if (On_Lost) On_Lost();
         },
         Qt::QueuedConnection);
   }

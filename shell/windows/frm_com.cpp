@@ -5,6 +5,8 @@
 
 #include "app.h"
 #include "com_ports.h"
+#include "frm_main.h"
+#include "handshake.h"
 #include "mscomm.h"
 #include "platform.h"
 #include "settings.h"
@@ -53,6 +55,13 @@ void Cmb_com_Click() {
            App.Title);
 }
 
+// Between transfers, the port is open while this window is up.
+void Port_Gone() {
+  if (TransferRunning) return;  // Its end tells.
+  frmMain.sbStatusBar.Set_Panel(1, "");
+  Tell_Port_Gone();
+}
+
 void Cmd_Close_Click() {
   MSComm1.Close();
   frmCom.Unload();
@@ -66,6 +75,7 @@ void Wire_frmCom() {
   frmCom.Cmb_com.Click = Cmb_com_Click;
   frmCom.Cmb_com.Tip = Device_Text;
   frmCom.Cmd_Close.Click = Cmd_Close_Click;
+  MSComm1.Gone = Port_Gone;
   frmCom.CheckRTS.Click = [] {
     DoEvents();
     Save_Line(key::kRts, frmCom.CheckRTS);

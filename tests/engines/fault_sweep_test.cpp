@@ -185,7 +185,8 @@ class One_Run {
       const bool out_of_step = Panel(1) == "プログラマの応答がずれています。";
       if (!done && !out_of_step && Panel(1) != Error_Text())
         return "panel 1 says " + Panel(1) + ", not " + Error_Text();
-      if (On_The_Bus() ? !Panel(2).starts_with("COM1 : TOLVEX") : Panel(2) != "COM1 : ライター未接続")
+      if (On_The_Bus() && !Faulty.Gone() ? !Panel(2).starts_with("COM1 : TOLVEX")
+                                         : Panel(2) != "COM1 : ライター未接続")
         return "panel 2 says " + Panel(2);
     }
 
@@ -237,7 +238,8 @@ class One_Run {
       return std::string("プログラマ接続確認エラー。") + (answered ? "" : "【1】") + reason;
     }
     const char port = static_cast<char>(Bench.Commands.back()[2] - 'a' + 'A');
-    return (c.Device.Family == 2 ? "24Cxx" : "93Cxx") + std::string(" Power on Port") + port + " error";
+    return (c.Device.Family == 2 ? "24Cxx" : "93Cxx") + std::string(" Power on Port") + port + " error" +
+           (Faulty.Gone() ? " ポートが切断されました。" : "");
   }
 
   // A cell in the block is what it was or what it shall be.

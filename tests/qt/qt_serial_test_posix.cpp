@@ -113,6 +113,8 @@ TEST_F(SerialPort, AReplyEndsTheWaitForAnEvent) {
 TEST_F(SerialPort, AnUnpluggedPortIsNoticedAtOnceLeavesTheProcessorIdleAndMayComeBack) {
   for (const bool asked : {true, false}) {
     SCOPED_TRACE(asked);
+    int told = 0;
+    port.On_Lost = [&] { ++told; };
     ASSERT_EQ(port.Open(7, true, false), Port_Fault::None);
     EXPECT_FALSE(port.Lost());
     Arrive({1, 2, 3});
@@ -132,6 +134,7 @@ TEST_F(SerialPort, AnUnpluggedPortIsNoticedAtOnceLeavesTheProcessorIdleAndMayCom
     EXPECT_LT(Worked_Since(before), 0.03);
     EXPECT_GT(ThePlatform->Timer() - start, 0.04);  // The closed port wakes nobody any more.
     EXPECT_TRUE(port.Lost());
+    EXPECT_EQ(told, 1);
     EXPECT_FALSE(port.Write(Bytes{1}));
 
     Plug();
@@ -142,6 +145,7 @@ TEST_F(SerialPort, AnUnpluggedPortIsNoticedAtOnceLeavesTheProcessorIdleAndMayCom
     EXPECT_EQ(port.Open(7, true, false), Port_Fault::None);
     ThePlatform->DoEvents();  // What is left of the lost port must not close the new one.
     EXPECT_FALSE(port.Lost());
+    EXPECT_EQ(told, 1);
     Arrive({9});
     EXPECT_EQ(port.Waiting(), 1u);
     EXPECT_EQ(port.Take(), Bytes{9});

@@ -43,6 +43,7 @@ class Test_Bench : private Platform, private Settings_Store, private Serial_Back
   std::map<int, Serial_Device> Devices;    // By COM number.
   double ByteTime = 10.0 / 9600;           // Seconds a byte on the wire.
   bool Is_Open() const { return open; }
+  using Serial_Backend::On_Lost;
   // A byte that lies in the receive buffer now.
   void Leave_In_Buffer(std::uint8_t byte) { arriving.push_front({now, byte}); }
   void Forget_Traffic();

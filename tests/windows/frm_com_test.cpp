@@ -53,6 +53,14 @@ TEST_F(Port_Window, AfterATransferItLeavesThePortAloneUntilAPick) {
   EXPECT_TRUE(bench.Is_Open()) << "closed, it is loaded afresh";
 }
 
+TEST_F(Port_Window, APortThatGoesWhileTheWindowHoldsItIsTold) {
+  frmCom.Show_Modal();
+  frmMain.sbStatusBar.Set_Panel(1, "Finsh");
+  bench.On_Lost();
+  EXPECT_EQ(Panel(1), "ポートが切断されました。");
+  EXPECT_EQ(Panel(2), "COM1 : ライター未接続");
+}
+
 TEST_F(Port_Window, EachEntryTellsItsDevice) {
   bench.Devices = {{1, {"/dev/ttyUSB0", true, "Maker", "UART bridge"}}, {20, {"/dev/ttyS0"}}};
   EXPECT_EQ(frmCom.Cmb_com.Tip(0), "/dev/ttyUSB0  Maker  UART bridge");
