@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <optional>
 #include <span>
+#include <string>
 #include <vector>
 
 #include "com_ports.h"
@@ -26,6 +27,7 @@ class Recording_Port : public wrenbit::Serial_Backend {
   const Conversation& Said() const { return conversation; }
 
   wrenbit::Port_Fault Open(int number, bool rts, bool dtr) override;
+  std::string Missing_Right() override { return port.Missing_Right(); }
   std::optional<wrenbit::Serial_Device> Device(int number) override { return port.Device(number); }
   void Close() override { port.Close(); }
   bool Lost() override { return port.Lost(); }

@@ -50,14 +50,17 @@ constexpr const char* kLimits4096 =
     "４０９６バイトに制限しています。"
     "[ByteRead],[ByteWrite]は制限がありません。";
 
-const char* Reason(Port_Fault fault) {
+std::string Reason(Port_Fault fault) {
   switch (fault) {
     case Port_Fault::None:
+    case Port_Fault::Rights_Coming:
       break;
     case Port_Fault::No_Such_Port:
       return "ポートがありません。";
-    case Port_Fault::No_Permission:
-      return "使用権限なし(dialoutに加入)";
+    case Port_Fault::No_Permission: {
+      const std::string right = MSComm1.Missing_Right();
+      return "使用権限なし" + (right.empty() ? "" : "(" + right + ")");
+    }
     case Port_Fault::In_Use:
       return "ポートは使用中です。";
     case Port_Fault::Gone:

@@ -8,6 +8,9 @@ namespace wrenbit {
 namespace {
 
 constexpr double kWireByteTime = 10.0 / 9600;  // Start bit, eight data bits, stop bit.
+// Seconds. A new device has its rights some tens of milliseconds after it has appeared.
+constexpr double kRightsLimit = 0.5;
+constexpr double kRightsStep = 0.02;
 
 }  // namespace
 
@@ -21,7 +24,15 @@ void MSComm::Attach(Serial_Backend* port) {
 
 Port_Fault MSComm::Open() {
   Close();
-  const Port_Fault fault = backend ? backend->Open(CommPort, RTSEnable, DTREnable) : Port_Fault::No_Such_Port;
+  if (!backend) return Port_Fault::No_Such_Port;
+  const unsigned turn = turns;
+  const double limit = Timer() + kRightsLimit;
+  Port_Fault fault;
+  while ((fault = backend->Open(CommPort, RTSEnable, DTREnable)) == Port_Fault::Rights_Coming) {
+    if (Timer() > limit) return Port_Fault::No_Permission;
+    ThePlatform->Await_Event(kRightsStep);
+    if (turn != turns) return open ? Port_Fault::None : Port_Fault::No_Permission;
+  }
   open = fault == Port_Fault::None;
   byte_time = kWireByteTime;
   wire_free = 0;
@@ -30,6 +41,7 @@ Port_Fault MSComm::Open() {
 }
 
 void MSComm::Close() {
+  ++turns;
   if (!open) return;
   open = false;
   backend->Close();

@@ -7,6 +7,7 @@
 #include <functional>
 #include <optional>
 #include <span>
+#include <string>
 #include <vector>
 
 #include "com_ports.h"
@@ -17,6 +18,7 @@ enum class Port_Fault {
   None,
   No_Such_Port,   // Nothing carries that number, or the number is none.
   No_Permission,  // The user may not open the device.
+  Rights_Coming,  // The same for now: the system is still setting up who may.
   In_Use,         // Another program holds it.
   Gone,           // It was there and has been unplugged.
   Refused,        // Any other refusal of the system.
@@ -29,6 +31,9 @@ class Serial_Backend {
   // Opens COM1 to COM20 by its number, with both lines set and nothing in the receive buffer. On a fault
   // nothing is left open.
   virtual Port_Fault Open(int number, bool rts, bool dtr) = 0;
+  // What would let the user open the device that the last Open was not permitted to, a few words in Japanese;
+  // empty when nothing is known to.
+  virtual std::string Missing_Right() = 0;
   // The device that COMn would open now; nothing when there is none. Opens nothing.
   virtual std::optional<Serial_Device> Device(int number) = 0;
   virtual void Close() = 0;
@@ -60,7 +65,10 @@ class MSComm {
   bool DTREnable = false;
 
   bool PortOpen() const { return open; }
+  // Rests up to half a second, with events delivered, where the rights to the device are still coming; never
+  // gives Rights_Coming. An event that opens or closes the port meanwhile has the last word.
   Port_Fault Open();
+  std::string Missing_Right() const { return backend ? backend->Missing_Right() : ""; }
   void Close();
   bool Lost() { return open && backend->Lost(); }
   // Fires once, from the event loop, when the open port has gone away.
@@ -97,6 +105,7 @@ class MSComm {
  private:
   Serial_Backend* backend = nullptr;
   bool open = false;
+  unsigned turns = 0;  // Opens and closes so far.
   std::size_t unasked = 0;
   bool refused = false;
   double byte_time = 0;  // Seconds that a byte takes on the wire.

@@ -18,7 +18,8 @@ Port_Fault Fault_Of(QSerialPort::SerialPortError error, const QString& device) {
     case QSerialPort::PermissionError: {
       // QSerialPort says the same of a busy device and of a lock file that another holds.
       const QFileInfo file(device);
-      return file.isReadable() && file.isWritable() ? Port_Fault::In_Use : Port_Fault::No_Permission;
+      if (file.isReadable() && file.isWritable()) return Port_Fault::In_Use;
+      return Rights_May_Come(device.toStdString()) ? Port_Fault::Rights_Coming : Port_Fault::No_Permission;
     }
     case QSerialPort::ResourceError:
       return Port_Fault::Gone;
@@ -42,11 +43,11 @@ std::optional<Serial_Device> Qt_Serial::Device(int number) {
 
 Port_Fault Qt_Serial::Open(int number, bool rts, bool dtr) {
   Close();
-  const auto device = Device(number);
-  if (!device) return Port_Fault::No_Such_Port;
+  met = Device(number);
+  if (!met) return Port_Fault::No_Such_Port;
 
   // Unless told otherwise the port runs at 9600 baud, 8N1, without flow control.
-  const QString path = QString::fromStdString(device->Path);
+  const QString path = QString::fromStdString(met->Path);
   port.setPortName(path);
   if (!port.open(QIODevice::ReadWrite)) return Fault_Of(port.error(), path);
   // Pseudo terminals have neither line and refuse; they work all the same.
@@ -56,6 +57,8 @@ Port_Fault Qt_Serial::Open(int number, bool rts, bool dtr) {
   Drop();
   return Port_Fault::None;
 }
+
+std::string Qt_Serial::Missing_Right() { return met ? wrenbit::Missing_Right(met->Path) : ""; }
 
 void Qt_Serial::Close() {
   lost = false;

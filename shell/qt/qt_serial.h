@@ -7,6 +7,7 @@
 #include <filesystem>
 #include <optional>
 #include <span>
+#include <string>
 #include <vector>
 
 #include "com_ports.h"
@@ -21,6 +22,7 @@ class Qt_Serial : public Serial_Backend {
   explicit Qt_Serial(std::filesystem::path ports_folder);
 
   Port_Fault Open(int number, bool rts, bool dtr) override;
+  std::string Missing_Right() override;
   std::optional<Serial_Device> Device(int number) override;
   void Close() override;
   bool Lost() override;
@@ -32,6 +34,7 @@ class Qt_Serial : public Serial_Backend {
  private:
   std::filesystem::path folder;
   QSerialPort port;
+  std::optional<Serial_Device> met;  // At the last open, whether or not it opened.
   bool lost = false;
 };
 

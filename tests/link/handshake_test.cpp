@@ -155,7 +155,8 @@ TEST_F(Handshake_Test, TheVersionDecidesByItsNumber) {
 TEST_F(Handshake_Test, APortThatCannotBeOpenedSendsNothingAndSaysWhy) {
   const std::tuple<Port_Fault, const char*, std::string> cases[] = {
       {Port_Fault::No_Such_Port, "2", "【3】ポートがありません。"},
-      {Port_Fault::No_Permission, "0", "【1】使用権限なし(dialoutに加入)"},
+      {Port_Fault::No_Permission, "0", "【1】使用権限なし(uucpに加入)"},
+      {Port_Fault::Rights_Coming, "0", "【1】使用権限なし(uucpに加入)"},
       {Port_Fault::In_Use, "0", "【1】ポートは使用中です。"},
       {Port_Fault::Gone, "0", "【1】ポートが切断されました。"},
       {Port_Fault::Refused, "0", "【1】ポートを開けません。"},
@@ -166,6 +167,7 @@ TEST_F(Handshake_Test, APortThatCannotBeOpenedSendsNothingAndSaysWhy) {
   for (const auto& [fault, com_no, text] : cases) {
     SCOPED_TRACE(com_no + text);
     bench.Refusal = fault;
+    bench.Right = "uucpに加入";
     bench.Stored["ComNo"] = com_no;
     Read_Version();
     EXPECT_EQ(LinkError, 1);
@@ -173,6 +175,14 @@ TEST_F(Handshake_Test, APortThatCannotBeOpenedSendsNothingAndSaysWhy) {
     EXPECT_FALSE(bench.Is_Open());
   }
   EXPECT_TRUE(bench.Sent.empty());
+}
+
+TEST_F(Handshake_Test, RightsThatTheSystemIsStillSettingUpAreWaitedFor) {
+  Answer("TOLVEX fw. 5.00\r\n");
+  bench.Refusal = Port_Fault::Rights_Coming;
+  bench.On_Yield = [&] { bench.Refusal = Port_Fault::None; };
+  Read_Version();
+  EXPECT_EQ(LinkError, 0);
 }
 
 }  // namespace

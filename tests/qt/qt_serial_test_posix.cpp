@@ -1,3 +1,4 @@
+#include <grp.h>
 #include <gtest/gtest.h>
 #include <poll.h>
 #include <pty.h>
@@ -10,12 +11,15 @@
 #include <cstdint>
 #include <ctime>
 #include <filesystem>
+#include <map>
 #include <string>
 #include <vector>
 
 #include "mscomm.h"
+#include "plain_user_posix.h"
 #include "platform.h"
 #include "qt_serial.h"
+#include "serial_handle.h"
 #include "temporary_folder.h"
 
 namespace wrenbit {
@@ -167,6 +171,24 @@ TEST_F(SerialPort, FaultsAreToldApart) {
   if (geteuid() == 0) return;  // To root every device is permitted.
   ASSERT_EQ(chmod(device.c_str(), 0), 0);
   EXPECT_EQ(port.Open(7, true, false), Port_Fault::No_Permission);
+}
+
+TEST(SerialRights, TellWhichGroupToJoinUnlessTheUserIsInIt) {
+  if (geteuid() != 0) return;  // Nobody else gives files away.
+  const Temporary_Folder folder;
+  const std::string node = folder / "node";
+  Put_Content(node, "");
+  ASSERT_EQ(chmod(node.c_str(), 0660) + setegid(getgrnam("users")->gr_gid), 0);
+  for (const auto& [group, text] : std::map<std::string, std::string>{{"dialout", "dialoutに加入"},
+                                                                      {"nogroup", "再ログインが必要"},
+                                                                      {"users", ""},
+                                                                      {"root", "rootのみ使用可"}}) {
+    ASSERT_EQ(chown(node.c_str(), 0, getgrnam(group.c_str())->gr_gid), 0);
+    const Plain_User nobody;  // Whose group in the database is nogroup.
+    EXPECT_EQ(Missing_Right(node), text);
+    EXPECT_EQ(Rights_May_Come(node), group == "root");
+  }
+  ASSERT_EQ(setegid(0), 0);
 }
 
 }  // namespace

@@ -31,6 +31,7 @@ class Test_Bench : private Platform, private Settings_Store, private Serial_Back
   // --- The port.
   board::Wire_End* Board = nullptr;        // What hangs on it; nothing answers when null.
   Port_Fault Refusal = Port_Fault::None;   // What the next open meets.
+  std::string Right;                       // What is missing where it has no permission.
   Bytes Sent;                              // All bytes that went out.
   std::vector<Bytes> Commands;             // The same, a write each; those that were refused too.
   std::function<bool(std::size_t)> Takes;  // Whether the system takes the write of this number, from 1 on.
@@ -89,6 +90,7 @@ class Test_Bench : private Platform, private Settings_Store, private Serial_Back
   }
 
   Port_Fault Open(int number, bool rts, bool dtr) override;
+  std::string Missing_Right() override { return Right; }
   std::optional<Serial_Device> Device(int number) override;
   void Close() override;
   bool Lost() override { return Board && Board->Gone(); }
