@@ -16,6 +16,8 @@ struct Serial_Device {
   // As a USB device names itself; empty where it does not.
   std::string Maker = {};
   std::string Product = {};
+  // Received bytes that a built-in port's UART collects before it hands any on; 0 when it does not tell.
+  int Receive_Trigger = 0;
 };
 
 // USB adapters first, in the order of their numbers, then the built-in ports in theirs. So one adapter,

@@ -19,6 +19,13 @@ std::string First_Line(const std::filesystem::path& file) {
   return line;
 }
 
+// 0 when there is no such file, and no number in it.
+int Number_In(const std::filesystem::path& file) {
+  int number = 0;
+  std::ifstream(file) >> number;
+  return number;
+}
+
 }  // namespace
 
 std::vector<Serial_Device> Serial_Devices_Present(const std::filesystem::path& system_folder) {
@@ -35,6 +42,7 @@ std::vector<Serial_Device> Serial_Devices_Present(const std::filesystem::path& s
     if (int type = 0; type_file >> type && type == 0) continue;
     Serial_Device device{.Path = "/dev/" + tty->path().filename().string(),
                          .Usb = hardware.string().find("/usb") != std::string::npos};
+    device.Receive_Trigger = Number_In(tty->path() / "rx_trig_bytes");
     // The port lies one or two folders below the USB device that has it.
     for (std::filesystem::path at = hardware; device.Usb && at.has_relative_path(); at = at.parent_path()) {
       if (!std::filesystem::exists(at / "idVendor", none)) continue;

@@ -25,6 +25,8 @@ std::string Device_Text(int entry) {
   std::string text = device->Path;
   for (const std::string& name : {device->Maker, device->Product})
     if (!name.empty()) text += "  " + name;
+  if (device->Receive_Trigger > 1)
+    text += "  受信を" + std::to_string(device->Receive_Trigger) + "バイトまとめるので応答が遅れます。";
   return text;
 }
 

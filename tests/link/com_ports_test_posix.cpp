@@ -38,13 +38,16 @@ TEST(Com_Ports, UsbAdaptersComeFirstInTheOrderOfTheirNumbersAndTheSystemTellsWho
   add("ttyS0", "pnp0/serial0");
   add("ttyS1", "pnp0/serial1");
   put("class/tty/ttyS0/type", "4");
+  put("class/tty/ttyS0/rx_trig_bytes", "8");
   put("class/tty/ttyS1/type", "0");  // No chip behind it.
   add("tty1", "");
   std::string told;
   for (const Serial_Device& device : In_Com_Order(Serial_Devices_Present(system)))
-    told += device.Path + (device.Usb ? " USB " : " ") + device.Maker + ":" + device.Product + "\n";
-  EXPECT_EQ(told,
-            "/dev/ttyUSB2 USB :\n/dev/ttyACM2 USB :\n/dev/ttyUSB10 USB Maker:UART bridge\n/dev/ttyS0 :\n");
+    told += device.Path + (device.Usb ? " USB " : " ") + device.Maker + ":" + device.Product + " " +
+            std::to_string(device.Receive_Trigger) + "\n";
+  EXPECT_EQ(
+      told,
+      "/dev/ttyUSB2 USB : 0\n/dev/ttyACM2 USB : 0\n/dev/ttyUSB10 USB Maker:UART bridge 0\n/dev/ttyS0 : 8\n");
 }
 
 TEST(Com_Ports, ALinkDecidesUnlessAKilledBoardLeftItBehind) {

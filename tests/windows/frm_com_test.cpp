@@ -62,10 +62,11 @@ TEST_F(Port_Window, APortThatGoesWhileTheWindowHoldsItIsTold) {
 }
 
 TEST_F(Port_Window, EachEntryTellsItsDevice) {
-  bench.Devices = {{1, {"/dev/ttyUSB0", true, "Maker", "UART bridge"}}, {20, {"/dev/ttyS0"}}};
+  bench.Devices = {{1, {"/dev/ttyUSB0", true, "Maker", "UART bridge"}},
+                   {20, {.Path = "/dev/ttyS0", .Receive_Trigger = 8}}};
   EXPECT_EQ(frmCom.Cmb_com.Tip(0), "/dev/ttyUSB0  Maker  UART bridge");
   EXPECT_EQ(frmCom.Cmb_com.Tip(1), "この番号のシリアルポートはありません。");
-  EXPECT_EQ(frmCom.Cmb_com.Tip(19), "/dev/ttyS0");
+  EXPECT_EQ(frmCom.Cmb_com.Tip(19), "/dev/ttyS0  受信を8バイトまとめるので応答が遅れます。");
 }
 
 TEST_F(Port_Window, ASecondClickWhileItLoadsLeavesAWindowThatCloses) {
