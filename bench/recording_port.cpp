@@ -5,7 +5,7 @@
 
 namespace bench {
 
-Recording_Port::Recording_Port() : port((wrenbit::Config_Folder() + "/ports").toStdString()) {
+Recording_Port::Recording_Port() : port(wrenbit::Config_Folder().toStdString()) {
   wrenbit::MSComm1.Attach(this);
 }
 

@@ -29,6 +29,7 @@ class Recording_Port : public wrenbit::Serial_Backend {
   wrenbit::Port_Fault Open(int number, bool rts, bool dtr) override;
   std::string Missing_Right() override { return port.Missing_Right(); }
   std::optional<wrenbit::Serial_Device> Device(int number) override { return port.Device(number); }
+  void Keep_Number() override { port.Keep_Number(); }
   void Close() override { port.Close(); }
   bool Lost() override { return port.Lost(); }
   std::size_t Waiting() override;

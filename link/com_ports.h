@@ -1,8 +1,7 @@
-// Which serial device stands behind COM1 to COM20.
+// The serial devices that are present.
 #pragma once
 
 #include <filesystem>
-#include <optional>
 #include <string>
 #include <vector>
 
@@ -11,13 +10,20 @@ namespace wrenbit {
 inline constexpr int kComPorts = 20;
 
 struct Serial_Device {
-  std::string Path;  // "/dev/ttyUSB0"
+  std::string Path = {};  // "/dev/ttyUSB0"; empty for one that is known and not plugged in.
   bool Usb = false;
   // As a USB device names itself; empty where it does not.
   std::string Maker = {};
   std::string Product = {};
   // Received bytes that a built-in port's UART collects before it hands any on; 0 when it does not tell.
   int Receive_Trigger = 0;
+  // What survives replugging. A USB device's vendor, product and interface, "0403:6001:1.0", and its serial
+  // number, which it may not have; empty for others.
+  std::string Kind = {};
+  std::string Serial = {};
+  // The socket of a USB device, without the number of its bus, which changes from boot to boot; the name of a
+  // built-in port.
+  std::string Place = {};
 };
 
 // USB adapters first, in the order of their numbers, then the built-in ports in theirs. So one adapter,
@@ -27,14 +33,6 @@ std::vector<Serial_Device> In_Com_Order(std::vector<Serial_Device> devices);
 // The devices that are present and have hardware behind them, in no order. The folder is where the system
 // tells of its devices.
 std::vector<Serial_Device> Serial_Devices_Present(const std::filesystem::path& system_folder = "/sys");
-
-// The device of COMn: the target of the link ports_folder/COMn, else the n-th of the devices in COM order.
-// Nothing when n is outside 1 to 20 or no device is left for it, and nothing when the link leads to no
-// device: no other one takes the place of an adapter that is unplugged. A virtual board holds a lock on
-// COMn.lock beside its link; a link whose lock nobody holds was left behind by a board that was killed, and
-// counts as absent.
-std::optional<Serial_Device> Device_Of_Com(int number, const std::filesystem::path& ports_folder,
-                                           const std::vector<Serial_Device>& in_com_order);
 
 // True when a file is there that a process could hold a lock on, and none does.
 bool Lock_Was_Left_Behind(const std::filesystem::path& lock_file);

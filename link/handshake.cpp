@@ -181,6 +181,7 @@ void Read_Version() {
   if (!identity) return Fail_Unanswered(port, MSComm1.Lost() ? Port_Fault::Gone : Port_Fault::None);
   if (!identity->starts_with(kWord)) return Fail_Without_Board(port, "");  // An unknown board is not driven.
 
+  MSComm1.Keep_Number();
   ProgrammerVersionText = Shown(*identity);
   frmMain.sbStatusBar.Set_Panel(2, "COM" + port.Text + " : " + ProgrammerVersionText);
   // No number counts as 0: port commands work with every board.

@@ -5,7 +5,7 @@ namespace wrenbit {
 
 // Opens the port of the setting ComNo, with the lines of RTS and DTR, and asks the board what it is: "?"
 // twice, of which the second counts. A good reply sets ProgrammerVersion and its text, which otherwise keep
-// their last good values, and panel 2.
+// their last good values, and panel 2; the number of the port is the device's own from then on.
 //
 // LinkError is 0 afterwards exactly when a known board has answered; else panels 1 and 2 tell what failed.
 // The port may be open in either case: Command_Unlock closes it.

@@ -51,6 +51,10 @@ std::optional<Serial_Device> MSComm::Device(int number) const {
   return backend ? backend->Device(number) : std::nullopt;
 }
 
+void MSComm::Keep_Number() {
+  if (backend) backend->Keep_Number();
+}
+
 void MSComm::Clear_InBuffer() {
   if (!open) return;
   const std::size_t waiting = backend->Waiting();

@@ -34,8 +34,12 @@ class Serial_Backend {
   // What would let the user open the device that the last Open was not permitted to, a few words in Japanese;
   // empty when nothing is known to.
   virtual std::string Missing_Right() = 0;
-  // The device that COMn would open now; nothing when there is none. Opens nothing.
+  // The device that COMn would open now, its Path empty while it is away; nothing when the number has none.
+  // Opens nothing.
   virtual std::optional<Serial_Device> Device(int number) = 0;
+  // The number of the last Open belongs to the device that it met from now on, whether or not that opened.
+  // Does nothing where the numbers are the system's own.
+  virtual void Keep_Number() = 0;
   virtual void Close() = 0;
   // True once the open port has gone away; it then gives no byte any more and takes none.
   virtual bool Lost() = 0;
@@ -74,6 +78,8 @@ class MSComm {
   // Fires once, from the event loop, when the open port has gone away.
   std::function<void()> Gone;
   std::optional<Serial_Device> Device(int number) const;
+  // CommPort belongs to the device that the last open met from now on.
+  void Keep_Number();
 
   // On a closed port there is nothing to read, and nothing goes out.
   std::size_t InBufferCount() { return open ? backend->Waiting() : 0; }

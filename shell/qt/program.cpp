@@ -39,7 +39,7 @@ QString Config_Folder() {
 Program::Program(int& argc, char** argv)
     : application(argc, argv),
       settings(Config_Folder() + QStringLiteral("/settings.ini")),
-      serial((Config_Folder() + QStringLiteral("/ports")).toStdString()) {
+      serial(Config_Folder().toStdString()) {
   Install_Accessibility();
   QApplication::setApplicationName(QString::fromStdString(App.Title));
   QApplication::setDesktopFileName(

@@ -12,7 +12,7 @@
 
 namespace wrenbit {
 
-// wrenbit/ in the user's configuration folder: settings, instance lock, links to ports.
+// wrenbit/ in the user's configuration folder: settings, instance lock, whose the COM numbers are.
 QString Config_Folder();
 
 // The one instance in a process. Nothing shows until Start.

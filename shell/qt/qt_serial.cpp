@@ -30,21 +30,24 @@ Port_Fault Fault_Of(QSerialPort::SerialPortError error, const QString& device) {
 
 }  // namespace
 
-Qt_Serial::Qt_Serial(std::filesystem::path ports_folder) : folder(std::move(ports_folder)) {
+Qt_Serial::Qt_Serial(std::filesystem::path config_folder) : numbers(std::move(config_folder)) {
   // A port that hangs up wakes the event loop over and over, with many errors, one or none, as the version of
   // Qt has it. So the port itself is asked, each time the loop is about to rest.
   QObject::connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock, &port,
                    [this] { Lost(); });
 }
 
-std::optional<Serial_Device> Qt_Serial::Device(int number) {
-  return Device_Of_Com(number, folder, In_Com_Order(Serial_Devices_Present()));
+std::optional<Serial_Device> Qt_Serial::Device(int number) { return numbers.Device(number); }
+
+void Qt_Serial::Keep_Number() {
+  if (met) numbers.Give(met_as, *met);
 }
 
 Port_Fault Qt_Serial::Open(int number, bool rts, bool dtr) {
   Close();
+  met_as = number;
   met = Device(number);
-  if (!met) return Port_Fault::No_Such_Port;
+  if (!met || met->Path.empty()) return Port_Fault::No_Such_Port;
 
   // Unless told otherwise the port runs at 9600 baud, 8N1, without flow control.
   const QString path = QString::fromStdString(met->Path);

@@ -10,6 +10,7 @@
 #include <string>
 #include <vector>
 
+#include "com_numbers.h"
 #include "com_ports.h"
 #include "mscomm.h"
 
@@ -18,12 +19,13 @@ namespace wrenbit {
 // Lives while the application object does.
 class Qt_Serial : public Serial_Backend {
  public:
-  // The folder in which a link COMn names the device of that port.
-  explicit Qt_Serial(std::filesystem::path ports_folder);
+  // The user's configuration folder, which tells whose the numbers are.
+  explicit Qt_Serial(std::filesystem::path config_folder);
 
   Port_Fault Open(int number, bool rts, bool dtr) override;
   std::string Missing_Right() override;
   std::optional<Serial_Device> Device(int number) override;
+  void Keep_Number() override;
   void Close() override;
   bool Lost() override;
   std::size_t Waiting() override;
@@ -32,9 +34,11 @@ class Qt_Serial : public Serial_Backend {
   bool Write(std::span<const std::uint8_t> bytes) override;
 
  private:
-  std::filesystem::path folder;
+  const Com_Numbers numbers;
   QSerialPort port;
-  std::optional<Serial_Device> met;  // At the last open, whether or not it opened.
+  // At the last open, whether or not it opened.
+  int met_as = 0;
+  std::optional<Serial_Device> met;
   bool lost = false;
 };
 

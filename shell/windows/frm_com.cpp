@@ -23,8 +23,15 @@ std::string Device_Text(int entry) {
   const std::optional<Serial_Device> device = MSComm1.Device(entry + 1);
   if (!device) return "この番号のシリアルポートはありません。";
   std::string text = device->Path;
-  for (const std::string& name : {device->Maker, device->Product})
-    if (!name.empty()) text += "  " + name;
+  const auto add = [&](const std::string& name) {
+    if (!name.empty()) text += (text.empty() ? "" : "  ") + name;
+  };
+  add(device->Maker);
+  add(device->Product);
+  if (device->Path.empty()) {
+    add(device->Serial.empty() ? device->Place : device->Serial);
+    add("接続されていません。");
+  }
   if (device->Receive_Trigger > 1)
     text += "  受信を" + std::to_string(device->Receive_Trigger) + "バイトまとめるので応答が遅れます。";
   return text;
@@ -52,7 +59,9 @@ void Cmb_com_Click() {
   MSComm1.Close();
   SaveSetting(key::kComNo, std::to_string(frmCom.Cmb_com.ListIndex()));
   MSComm1.CommPort = frmCom.Cmb_com.ListIndex() + 1;
-  if (MSComm1.Open() != Port_Fault::None)
+  const Port_Fault fault = MSComm1.Open();
+  if (frmCom.Visible()) MSComm1.Keep_Number();  // The user's own pick.
+  if (fault != Port_Fault::None)
     MsgBox("指定した通信ポートは使用できませんでした。", Message_Icon::Critical, Message_Buttons::Ok,
            App.Title);
 }

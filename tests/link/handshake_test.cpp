@@ -49,6 +49,7 @@ TEST_F(Handshake_Test, AGoodReplyTellsVersionAndPortWhichIsReadFromTheSettingsEa
   Read_Version();
   EXPECT_EQ(bench.Opened, (std::vector<std::string>{"COM1 RTS", "COM20 DTR"}));
   EXPECT_EQ(Panel(2), "COM20 : TOLVEXｱ･xyz5.00");
+  EXPECT_EQ(bench.Kept, (std::vector<int>{1, 20}));
 }
 
 TEST_F(Handshake_Test, APortThatGoesDuringThePauseIsNoticedBeforeItIsOver) {
@@ -129,6 +130,7 @@ TEST_F(Handshake_Test, RepliesThatAreNoneEndTheTransfer) {
     EXPECT_FLOAT_EQ(ProgrammerVersion, 5.0F) << "keeps the last good value";
     EXPECT_NEAR(bench.Now() - before, seconds, 0.03);
   }
+  EXPECT_TRUE(bench.Kept.empty());
 }
 
 TEST_F(Handshake_Test, TheVersionDecidesByItsNumber) {

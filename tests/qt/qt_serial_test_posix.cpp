@@ -39,8 +39,9 @@ class SerialPort : public testing::Test {
     ASSERT_EQ(openpty(&far_end, &near_end, name, nullptr, nullptr), 0);
     close(near_end);
     device = name;
-    std::filesystem::remove(folder / "COM7");
-    std::filesystem::create_symlink(device, folder / "COM7");
+    std::filesystem::create_directory(folder / "ports");
+    std::filesystem::remove(folder / "ports/COM7");
+    std::filesystem::create_symlink(device, folder / "ports/COM7");
   }
   void Unplug() {
     if (far_end >= 0) close(far_end);
@@ -158,7 +159,7 @@ TEST_F(SerialPort, AnUnpluggedPortIsNoticedAtOnceLeavesTheProcessorIdleAndMayCom
 
 TEST_F(SerialPort, FaultsAreToldApart) {
   for (const int absent : {0, 20, 21}) EXPECT_EQ(port.Open(absent, true, false), Port_Fault::No_Such_Port);
-  std::filesystem::create_symlink("/dev/null", folder / "COM8");
+  std::filesystem::create_symlink("/dev/null", folder / "ports/COM8");
   EXPECT_EQ(port.Open(8, true, false), Port_Fault::Refused);
 
   Qt_Serial other(folder.Path());

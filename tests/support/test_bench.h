@@ -42,6 +42,7 @@ class Test_Bench : private Platform, private Settings_Store, private Serial_Back
   std::size_t SilentSeconds = 0;           // How many gaps lasted a second.
   std::vector<std::string> Opened;         // "COM1 RTS DTR" for each open.
   std::map<int, Serial_Device> Devices;    // By COM number.
+  std::vector<int> Kept;                   // The numbers that were given to their devices.
   double ByteTime = 10.0 / 9600;           // Seconds a byte on the wire.
   bool Is_Open() const { return open; }
   using Serial_Backend::On_Lost;
@@ -92,6 +93,7 @@ class Test_Bench : private Platform, private Settings_Store, private Serial_Back
   Port_Fault Open(int number, bool rts, bool dtr) override;
   std::string Missing_Right() override { return Right; }
   std::optional<Serial_Device> Device(int number) override;
+  void Keep_Number() override { Kept.push_back(MSComm1.CommPort); }
   void Close() override;
   bool Lost() override { return Board && Board->Gone(); }
   std::size_t Waiting() override;

@@ -29,8 +29,10 @@ TEST_F(Port_Window, ShowsWhatIsStoredAndStoresAPickAlsoWhenThePortCannotBeUsed) 
   frmCom.CheckRTS.Set_Value(1);
   EXPECT_EQ(bench.Stored["RTS"], "1");
 
+  EXPECT_TRUE(bench.Kept.empty()) << "only the user picks";
   bench.Refusal = Port_Fault::No_Such_Port;
   frmCom.Cmb_com.Set_ListIndex(19);
+  EXPECT_EQ(bench.Kept, std::vector<int>{20});
   EXPECT_EQ(bench.Boxes, std::vector<std::string>{"wrenbit | 指定した通信ポートは使用できませんでした。"});
   EXPECT_EQ(bench.Stored["ComNo"], "19");
   EXPECT_FALSE(bench.Is_Open());
@@ -63,9 +65,11 @@ TEST_F(Port_Window, APortThatGoesWhileTheWindowHoldsItIsTold) {
 
 TEST_F(Port_Window, EachEntryTellsItsDevice) {
   bench.Devices = {{1, {"/dev/ttyUSB0", true, "Maker", "UART bridge"}},
+                   {3, {.Maker = "Maker", .Serial = "A5"}},
                    {20, {.Path = "/dev/ttyS0", .Receive_Trigger = 8}}};
   EXPECT_EQ(frmCom.Cmb_com.Tip(0), "/dev/ttyUSB0  Maker  UART bridge");
   EXPECT_EQ(frmCom.Cmb_com.Tip(1), "この番号のシリアルポートはありません。");
+  EXPECT_EQ(frmCom.Cmb_com.Tip(2), "Maker  A5  接続されていません。");
   EXPECT_EQ(frmCom.Cmb_com.Tip(19), "/dev/ttyS0  受信を8バイトまとめるので応答が遅れます。");
 }
 

@@ -1,0 +1,134 @@
+#include "com_numbers.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <sstream>
+#include <string>
+#include <system_error>
+#include <utility>
+#include <vector>
+
+#include "number_text.h"
+#include "whole_file.h"
+
+namespace wrenbit {
+namespace fs = std::filesystem;
+namespace {
+
+// A line a number, with tabs between: COMn, what its owner is known by, vendor:product:interface, serial
+// number, place, maker, product.
+constexpr const char* kFirstLine =
+    "# 番号の持ち主。行を消すと番号が空く / Who owns a number. Delete a line to free it\n";
+constexpr const char* kPrefix = "COM";
+constexpr const char* kBySerial = "serial";
+constexpr const char* kByPlace = "place";
+
+bool Same_Serial(const Serial_Device& a, const Serial_Device& b) {
+  return a.Kind == b.Kind && a.Serial == b.Serial && !a.Serial.empty();
+}
+
+bool Same_Place(const Serial_Device& a, const Serial_Device& b) {
+  return a.Kind == b.Kind && a.Serial == b.Serial && a.Place == b.Place;
+}
+
+// The device that the link leads to, which may be a pseudo terminal; empty when it leads to none.
+std::string Target(const fs::path& link) {
+  std::error_code error;
+  if (!fs::is_character_file(link, error)) return {};
+  return fs::canonical(link, error).string();
+}
+
+}  // namespace
+
+Com_Numbers::Com_Numbers(fs::path config_folder, fs::path system_folder)
+    : ports(config_folder / "ports"), file(config_folder / "com-numbers"), system(std::move(system_folder)) {}
+
+fs::path Com_Numbers::Link(int number) const { return ports / (kPrefix + std::to_string(number)); }
+
+bool Com_Numbers::Has_Link(int number) const {
+  std::error_code ignored;
+  return fs::is_symlink(Link(number), ignored) && !Lock_Was_Left_Behind(Link(number) += ".lock");
+}
+
+// Lines that are none are passed over.
+std::map<int, Com_Numbers::Owner> Com_Numbers::Owners() const {
+  std::map<int, Owner> owners;
+  std::istringstream lines(Read_Whole_File(file.string()).value_or(""));
+  for (std::string line; std::getline(lines, line);) {
+    std::istringstream fields(line);
+    std::string com, known_by;
+    Serial_Device device;
+    for (std::string* field :
+         {&com, &known_by, &device.Kind, &device.Serial, &device.Place, &device.Maker, &device.Product})
+      std::getline(fields, *field, '\t');
+    if (!com.starts_with(kPrefix) || device.Place.empty()) continue;
+    if (known_by != kBySerial && known_by != kByPlace) continue;
+    const int number = Whole_Number(com.substr(std::string(kPrefix).size())).value_or(0);
+    if (number >= 1 && number <= kComPorts) owners.emplace(number, Owner{known_by == kBySerial, device});
+  }
+  return owners;
+}
+
+std::optional<Serial_Device> Com_Numbers::Device(int number) const {
+  if (number < 1 || number > kComPorts) return std::nullopt;
+  std::vector<Serial_Device> devices = In_Com_Order(Serial_Devices_Present(system));
+  if (Has_Link(number)) {
+    const std::string path = Target(Link(number));
+    if (path.empty()) return std::nullopt;
+    const auto known = std::ranges::find(devices, path, &Serial_Device::Path);
+    return known == devices.end() ? Serial_Device{.Path = path} : *known;
+  }
+
+  // Who is where it was goes before who has only the serial number.
+  const std::map<int, Owner> owners = Owners();
+  std::map<int, Serial_Device> at_home;
+  const auto seat = [&](auto is_owner) {
+    for (const auto& [owned, owner] : owners) {
+      const auto found =
+          std::ranges::find_if(devices, [&](const Serial_Device& d) { return is_owner(owner, d); });
+      if (at_home.contains(owned) || found == devices.end()) continue;
+      at_home.emplace(owned, *found);
+      devices.erase(found);
+    }
+  };
+  seat([](const Owner& owner, const Serial_Device& d) { return Same_Place(owner.Device, d); });
+  seat([&](const Owner& owner, const Serial_Device& device) {
+    // A serial number that several have tells nobody apart.
+    const auto same = [&](const Serial_Device& other) { return Same_Serial(device, other); };
+    return owner.BySerial && same(owner.Device) && std::ranges::count_if(devices, same) == 1 &&
+           std::ranges::count_if(owners, [&](const auto& o) { return same(o.second.Device); }) == 1;
+  });
+  if (at_home.contains(number)) return at_home.at(number);
+  if (owners.contains(number)) return owners.at(number).Device;
+
+  std::size_t free_before = 0;
+  for (int other = 1; other <= kComPorts; ++other) {
+    const bool linked = Has_Link(other);
+    if (linked) std::erase_if(devices, [&](const auto& d) { return d.Path == Target(Link(other)); });
+    if (other < number && !linked && !owners.contains(other)) ++free_before;
+  }
+  if (free_before >= devices.size()) return std::nullopt;
+  return devices[free_before];
+}
+
+void Com_Numbers::Give(int number, const Serial_Device& device) const {
+  if (device.Path.empty() || device.Place.empty() || Has_Link(number)) return;
+  std::map<int, Owner> owners = Owners();
+  // Many cheap adapters share one serial number.
+  const std::vector<Serial_Device> present = Serial_Devices_Present(system);
+  const auto with_it = std::ranges::count_if(present, [&](const auto& d) { return Same_Serial(device, d); });
+  owners[number] = {!device.Serial.empty() && with_it <= 1, device};
+
+  std::string text = kFirstLine;
+  for (const auto& [owned, owner] : owners) {
+    const Serial_Device& d = owner.Device;
+    text += kPrefix + std::to_string(owned);
+    for (const std::string& field :
+         {std::string(owner.BySerial ? kBySerial : kByPlace), d.Kind, d.Serial, d.Place, d.Maker, d.Product})
+      text += '\t' + field;
+    text += '\n';
+  }
+  if (Read_Whole_File(file.string()) != text) Write_Whole_File(file.string(), text);
+}
+
+}  // namespace wrenbit

@@ -1,0 +1,43 @@
+// Whose the numbers COM1 to COM20 are.
+#pragma once
+
+#include <filesystem>
+#include <map>
+#include <optional>
+
+#include "com_ports.h"
+
+namespace wrenbit {
+
+// A number belongs to the device that answered behind it last, for as long as the user's file says so; while
+// that device is away, no other takes its place. Links are the user's own word, and come first.
+class Com_Numbers {
+ public:
+  // The user's configuration folder, with the links ports/COMn and the file com-numbers, neither of which
+  // need be there; and where the system tells of its devices.
+  explicit Com_Numbers(std::filesystem::path config_folder, std::filesystem::path system_folder = "/sys");
+
+  // The device of COMn, as things are now: the target of the link ports/COMn; else the device that the number
+  // belongs to, its Path empty while it is away. What numbers are left go, in COM order, to the devices that
+  // own none and have no link. Nothing when n is outside 1 to 20, no device is left for it, or the link leads
+  // to none. A virtual board holds a lock on COMn.lock beside its
+  // link; a link whose lock nobody holds was left behind by a board that was killed, and counts as absent.
+  std::optional<Serial_Device> Device(int number) const;
+
+  // The number belongs to this device, which Device gave for it, from now on. Nothing changes when that is
+  // away or the number has a link, nor where the file cannot be written.
+  void Give(int number, const Serial_Device& device) const;
+
+ private:
+  struct Owner {
+    bool BySerial;  // Wherever it is plugged in; else in its place only.
+    Serial_Device Device;
+  };
+  std::map<int, Owner> Owners() const;
+  std::filesystem::path Link(int number) const;
+  bool Has_Link(int number) const;
+
+  const std::filesystem::path ports, file, system;
+};
+
+}  // namespace wrenbit
