@@ -48,7 +48,7 @@ void Describe_Usb(const std::filesystem::path& port, Serial_Device& device) {
 
   // Behind the device's own name, which begins with the number of the bus.
   std::string which = Behind(interface.string(), ':');
-  if (const int number = Number_In(port / "port_number")) which += "." + std::to_string(number);
+  if (const int number = Number_In(port / "port_number")) (which += '.') += std::to_string(number);
   device.Kind = First_Line(usb / "idVendor") + ":" + First_Line(usb / "idProduct") + ":" + which;
   std::filesystem::path controller = usb.parent_path();
   while (controller.filename().string().find('-') != std::string::npos) controller = controller.parent_path();
