@@ -40,7 +40,7 @@ std::string Target(const fs::path& link) {
 
 }  // namespace
 
-Com_Numbers::Com_Numbers(fs::path config_folder, fs::path system_folder)
+Com_Numbers::Com_Numbers(const fs::path& config_folder, fs::path system_folder)
     : ports(config_folder / "ports"), file(config_folder / "com-numbers"), system(std::move(system_folder)) {}
 
 fs::path Com_Numbers::Link(int number) const { return ports / (kPrefix + std::to_string(number)); }
@@ -84,8 +84,8 @@ std::optional<Serial_Device> Com_Numbers::Device(int number) const {
   std::map<int, Serial_Device> at_home;
   const auto seat = [&](auto is_owner) {
     for (const auto& [owned, owner] : owners) {
-      const auto found =
-          std::ranges::find_if(devices, [&](const Serial_Device& d) { return is_owner(owner, d); });
+      const auto found = std::ranges::find_if(
+          devices, [&, &who = owner](const Serial_Device& d) { return is_owner(who, d); });
       if (at_home.contains(owned) || found == devices.end()) continue;
       at_home.emplace(owned, *found);
       devices.erase(found);

@@ -15,7 +15,8 @@ class Com_Numbers {
  public:
   // The user's configuration folder, with the links ports/COMn and the file com-numbers, neither of which
   // need be there; and where the system tells of its devices.
-  explicit Com_Numbers(std::filesystem::path config_folder, std::filesystem::path system_folder = "/sys");
+  explicit Com_Numbers(const std::filesystem::path& config_folder,
+                       std::filesystem::path system_folder = "/sys");
 
   // The device of COMn, as things are now: the target of the link ports/COMn; else the device that the number
   // belongs to, its Path empty while it is away. What numbers are left go, in COM order, to the devices that

@@ -2,7 +2,6 @@
 
 #include <QAbstractEventDispatcher>
 #include <QFileInfo>
-#include <utility>
 
 #include "serial_handle.h"
 
@@ -30,7 +29,7 @@ Port_Fault Fault_Of(QSerialPort::SerialPortError error, const QString& device) {
 
 }  // namespace
 
-Qt_Serial::Qt_Serial(std::filesystem::path config_folder) : numbers(std::move(config_folder)) {
+Qt_Serial::Qt_Serial(const std::filesystem::path& config_folder) : numbers(config_folder) {
   // A port that hangs up wakes the event loop over and over, with many errors, one or none, as the version of
   // Qt has it. So the port itself is asked, each time the loop is about to rest.
   QObject::connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock, &port,

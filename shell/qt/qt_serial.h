@@ -20,7 +20,7 @@ namespace wrenbit {
 class Qt_Serial : public Serial_Backend {
  public:
   // The user's configuration folder, which tells whose the numbers are.
-  explicit Qt_Serial(std::filesystem::path config_folder);
+  explicit Qt_Serial(const std::filesystem::path& config_folder);
 
   Port_Fault Open(int number, bool rts, bool dtr) override;
   std::string Missing_Right() override;
