@@ -8,7 +8,6 @@
 #include <QMenuBar>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QPolygonF>
 #include <QPushButton>
 #include <QStyleOption>
 #include <QStylePainter>
@@ -169,24 +168,17 @@ QWidget* Button_View(CommandButton& button, QWidget* holder) {
   });
 }
 
-// Without a caption there is hardly more room than the mark's, and the style would draw past it. Its box has
-// an edge that is seen also while there is no mark in it.
+// Without a caption there is hardly more room than the mark's, and the style would draw past it.
 class Bare_Check_Box : public QCheckBox {
  public:
   using QCheckBox::QCheckBox;
 
  protected:
   void paintEvent(QPaintEvent*) override {
-    const QPalette::ColorGroup group = isEnabled() ? QPalette::Active : QPalette::Disabled;
-    const auto colour = [&](QPalette::ColorRole role) { return palette().color(group, role); };
-    QPainter painter(this);
-    painter.fillRect(rect(), isEnabled() ? colour(QPalette::Base) : colour(QPalette::Window));
-    Draw_Frame(painter, rect(), hasFocus() ? colour(QPalette::Highlight) : Line_Colour(palette()));
-    if (!isChecked()) return;
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(colour(QPalette::Text), 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    const auto at = [this](double x, double y) { return QPointF(x * width(), y * height()); };
-    painter.drawPolyline(QPolygonF({at(0.25, 0.5), at(0.43, 0.7), at(0.75, 0.28)}));
+    QStylePainter painter(this);
+    QStyleOptionButton option;
+    initStyleOption(&option);
+    painter.drawPrimitive(QStyle::PE_IndicatorCheckBox, option);
   }
 };
 

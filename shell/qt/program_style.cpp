@@ -1,6 +1,7 @@
 #include "program_style.h"
 
 #include <QPainter>
+#include <QPolygonF>
 #include <QStyleOption>
 #include <utility>
 
@@ -42,6 +43,25 @@ int Program_Style::styleHint(StyleHint hint, const QStyleOption* option, const Q
   // A list drops down below its box, with a scroll bar, in place of covering the screen.
   if (hint == SH_ComboBox_Popup) return 0;
   return QProxyStyle::styleHint(hint, option, widget, answer);
+}
+
+void Program_Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                                  const QWidget* widget) const {
+  if (element != PE_IndicatorCheckBox) return QProxyStyle::drawPrimitive(element, option, painter, widget);
+  const QRectF box = option->rect;
+  const QPalette& palette = option->palette;
+  painter->fillRect(box, palette.color(option->state & State_Enabled ? QPalette::Base : QPalette::Window));
+  const bool focus = option->state & State_HasFocus;
+  Draw_Frame(*painter, box, focus ? palette.color(QPalette::Highlight) : Line_Colour(palette));
+  if (!(option->state & State_On)) return;
+  const auto at = [&](double x, double y) {
+    return box.topLeft() + QPointF(x * box.width(), y * box.height());
+  };
+  painter->save();
+  painter->setRenderHint(QPainter::Antialiasing);
+  painter->setPen(QPen(palette.color(QPalette::Text), 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+  painter->drawPolyline(QPolygonF({at(0.25, 0.5), at(0.43, 0.7), at(0.75, 0.28)}));
+  painter->restore();
 }
 
 void Program_Style::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,

@@ -6,7 +6,8 @@
 namespace wrenbit {
 
 // Fusion, the only style that looks alike everywhere, with the captions of buttons and boxes fitted into
-// their room, frames on whole pixels of the screen, and greyed texts that can still be read.
+// their room, frames on whole pixels of the screen, check boxes whose edge is seen also while there is no
+// mark in them, and greyed texts that can still be read.
 class Program_Style : public QProxyStyle {
  public:
   Program_Style() : QProxyStyle(QStringLiteral("fusion")) {}
@@ -15,6 +16,8 @@ class Program_Style : public QProxyStyle {
   void polish(QPalette& palette) override;
   int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                 QStyleHintReturn* answer) const override;
+  void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget) const override;
   void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
                    const QWidget* widget) const override;
   void drawItemText(QPainter* painter, const QRect& room, int flags, const QPalette& palette, bool enabled,
