@@ -125,7 +125,10 @@ void Grid_Refill() {
   frmMain.Set_MousePointer(Pointer::Default);
 }
 
-void Grid_Out_Of_Date() { Set_OutOfDate(kNotTheImage); }
+void Grid_Out_Of_Date() {
+  Set_OutOfDate(kNotTheImage);
+  frmMain.MSFGrid1.Set_WeakFrom(1);
+}
 
 void Grid_Unread_From(std::int32_t address) {
   if (static_cast<std::size_t>(address) >= ImageBuffer.size()) return;

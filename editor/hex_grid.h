@@ -11,7 +11,7 @@ void Grid_Refill();
 
 // Grid, checksum label, edit boxes and bits turn grey: they show what the image held before a read that
 // failed. Until the next refill; boxes and bits until they show a byte of the image again, the label until
-// the next edit.
+// the next edit, a cell until it is written alone.
 void Grid_Out_Of_Date();
 
 // The bytes from this address on did not come from the chip: they show weaker, and the grid's tip says why,

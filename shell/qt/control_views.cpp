@@ -46,9 +46,9 @@ void Show_Tip(QWidget& view, const Control& control) {
 
 // Letters and marks as in a disabled view.
 void Set_Grey(QWidget& view, bool grey) {
+  const auto role = qobject_cast<QLabel*>(&view) ? QPalette::WindowText : QPalette::Text;
   QPalette colours;
-  for (const QPalette::ColorRole role : {QPalette::Text, QPalette::WindowText})
-    if (grey) colours.setColor(role, colours.color(QPalette::Disabled, role));
+  if (grey) colours.setColor(role, colours.color(QPalette::Disabled, role));
   view.setPalette(colours);
 }
 

@@ -30,6 +30,7 @@ Qt::WindowFlags Flags(Form_Kind kind) {
   return Qt::Window | bar | Qt::WindowMinimizeButtonHint;
 }
 
+constexpr QColor kSplash(0xEF, 0xEF, 0xEF);
 constexpr int kPatience = 1000;  // Milliseconds in which a window system has placed a new window.
 
 // Wayland keeps to itself where windows are.
@@ -46,6 +47,7 @@ Form_View::Form_View(Form& shown, Form_Kind what, QWidget* owner)
   setAccessibleName(QString::fromStdString(form.AccessibleName));
   layout()->setSizeConstraint(QLayout::SetFixedSize);
   if (kind == Form_Kind::Dialog) setWindowModality(Qt::ApplicationModal);
+  if (kind == Form_Kind::Splash) setPalette(QPalette(kSplash));  // Its letters have colours of their own.
   Make_Views();
   Hook_Form();
   if (kind != Form_Kind::Main) return;

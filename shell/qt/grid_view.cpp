@@ -43,8 +43,9 @@ void Grid_View::Follow() {
   viewport()->update();
 }
 
-QPalette::ColorGroup Grid_View::Colours() const {
-  return isEnabled() && grid.OutOfDate().empty() ? QPalette::Active : QPalette::Disabled;
+QPalette::ColorGroup Grid_View::Colours(int row, int col) const {
+  const bool written = row > 0 && col > 0 && !grid.Weak(row, col);
+  return isEnabled() && (grid.OutOfDate().empty() || written) ? QPalette::Active : QPalette::Disabled;
 }
 
 void Grid_View::Show_Current_Row() {
@@ -72,12 +73,12 @@ QRect Grid_View::Cell_Rect(int row, int col) const {
 }
 
 void Grid_View::Paint_Cell(QPainter& painter, const QRect& cell, int row, int col) const {
-  const auto colour = [&](QPalette::ColorRole role) { return palette().color(Colours(), role); };
+  const auto colour = [&](QPalette::ColorRole role) { return palette().color(Colours(row, col), role); };
   const bool fixed = row == 0 || col == 0;
   const bool current = !fixed && row == grid.Row() && col == grid.Col();
   painter.fillRect(cell, colour(fixed ? QPalette::Button : current ? QPalette::Highlight : QPalette::Base));
   const QColor lines = fixed ? Line_Colour(palette())
-                             : Mixed(palette().color(QPalette::Base), palette().color(QPalette::Text), 15);
+                             : Mixed(colour(QPalette::Base), palette().color(QPalette::WindowText), 18);
   Draw_Edge(painter, cell, Qt::BottomEdge, lines);
   Draw_Edge(painter, cell, Qt::RightEdge, lines);
   painter.setPen(fixed                 ? colour(QPalette::ButtonText)
@@ -98,7 +99,7 @@ void Grid_View::Paint_Cell(QPainter& painter, const QRect& cell, int row, int co
 void Grid_View::paintEvent(QPaintEvent* event) {
   QPainter painter(viewport());
   painter.setFont(font());
-  painter.fillRect(event->rect(), palette().color(Colours(), QPalette::Base));
+  painter.fillRect(event->rect(), palette().color(Colours(0, 0), QPalette::Base));
   const auto paint_if_asked = [&](int row, int col) {
     const QRect cell = Cell_Rect(row, col);
     if (event->region().intersects(cell)) Paint_Cell(painter, cell, row, col);

@@ -51,7 +51,8 @@ class Grid_View : public QAbstractScrollArea {
   int Column_Left(int col) const;
   void Set_Scroll_Range();
   void Show_Current_Row();
-  QPalette::ColorGroup Colours() const;  // Grey while nobody can reach the grid, and while it is out of date.
+  // Grey while nobody can reach the grid, and while it is out of date, but for what was written since.
+  QPalette::ColorGroup Colours(int row, int col) const;
   void Paint_Cell(QPainter& painter, const QRect& cell, int row, int col) const;
   void Make_Current(int row, int col);  // Unless it is a fixed cell or none.
   void Move_To(int row, int col);       // Or as near as the grid reaches.

@@ -114,6 +114,11 @@ void Help_Window::Set_Up_Page() {
   page->document()->setDefaultStyleSheet(QStringLiteral("pre, code { font-family: '%1' }")
                                              .arg(Font_For({.Face = Typeface::FixedPitch}).family()));
   page->document()->setIndentWidth(kListIndent);
+  page->document()->setDocumentMargin(kAboveHeading);
+  QPalette paper = page->palette();  // The text says most of its colours; bullets take the page's.
+  paper.setColor(QPalette::Base, Qt::white);
+  paper.setColor(QPalette::Text, Qt::black);
+  page->setPalette(paper);
   page->setAccessibleName(windowTitle());
   page->setOpenLinks(false);
   connect(page, &QTextBrowser::anchorClicked, this, &Help_Window::Follow);

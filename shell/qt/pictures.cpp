@@ -206,12 +206,31 @@ void Draw(QPainter& painter, Picture picture, bool fine) {
 // Width by height.
 double Aspect(Picture picture) { return picture == Picture::Logo ? 2 : 1; }
 
+// The pictures' dark lines are lost on a dark ground: there they get a light edge, a pixel wide.
+void Paint_On_Ground(QPainter& painter, const QRect& place, Picture picture) {
+  constexpr QColor kEdge(0x9a, 0xa6, 0xb4);
+  if (qGray(QApplication::palette().color(QPalette::Button).rgb()) < 0x80) {
+    const double scale = painter.device()->devicePixelRatio();
+    QPixmap shape(place.size() * scale);
+    shape.setDevicePixelRatio(scale);
+    shape.fill(Qt::transparent);
+    QPainter cut(&shape);
+    Paint_Picture(cut, QRectF(QPointF(), place.size()), picture);
+    cut.setCompositionMode(QPainter::CompositionMode_SourceIn);
+    cut.fillRect(QRectF(QPointF(), place.size()), kEdge);
+    cut.end();
+    for (const QPoint aside : {QPoint(-1, 0), QPoint(1, 0), QPoint(0, -1), QPoint(0, 1)})
+      painter.drawPixmap(place.topLeft() + aside, shape);
+  }
+  Paint_Picture(painter, place, picture);
+}
+
 class Picture_Engine : public QIconEngine {
  public:
   explicit Picture_Engine(Picture shown) : picture(shown) {}
 
   void paint(QPainter* painter, const QRect& place, QIcon::Mode mode, QIcon::State state) override {
-    if (mode != QIcon::Disabled) return Paint_Picture(*painter, place, picture);
+    if (mode != QIcon::Disabled) return Paint_On_Ground(*painter, place, picture);
     painter->drawPixmap(place, pixmap(place.size() * painter->device()->devicePixelRatio(), mode, state));
   }
 
@@ -219,7 +238,7 @@ class Picture_Engine : public QIconEngine {
     QPixmap drawn(size);
     drawn.fill(Qt::transparent);
     QPainter painter(&drawn);
-    Paint_Picture(painter, drawn.rect(), picture);
+    Paint_On_Ground(painter, drawn.rect(), picture);
     painter.end();
     if (mode != QIcon::Disabled) return drawn;
     QStyleOption option;

@@ -3,7 +3,7 @@
 #include <QPainter>
 #include <QPolygonF>
 #include <QStyleOption>
-#include <utility>
+#include <algorithm>
 
 #include "fitted_text.h"
 #include "look.h"
@@ -13,11 +13,13 @@ namespace wrenbit {
 namespace {
 
 constexpr double kLeastContrast = 4.5;
+constexpr int kButtonLight = 145;  // Percent of a dark button's colour, where Fusion's is lightest.
 
-// As near to the background as can still be read on it.
-QColor Greyed(const QColor& letters, const QColor& background) {
+// As near to the background as can still be read on it, and on what the style may make of it.
+QColor Greyed(const QColor& letters, const QColor& background, int lighter = 100) {
   for (int percent = 60; percent > 0; --percent)
-    if (const QColor grey = Mixed(letters, background, percent); Contrast(grey, background) >= kLeastContrast)
+    if (const QColor grey = Mixed(letters, background, percent);
+        std::min(Contrast(grey, background), Contrast(grey, background.lighter(lighter))) >= kLeastContrast)
       return grey;
   return letters;
 }
@@ -32,10 +34,12 @@ void Program_Style::polish(QPalette& palette) {
   palette.setColor(QPalette::Disabled, QPalette::HighlightedText,
                    Greyed(live(QPalette::WindowText), highlight));
   // Texts lie on the window or on the base, of which the window's colour is the nearer one to theirs.
-  for (const auto& [letters, background] : {std::pair{QPalette::WindowText, QPalette::Window},
-                                            {QPalette::Text, QPalette::Window},
-                                            {QPalette::ButtonText, QPalette::Button}})
-    palette.setColor(QPalette::Disabled, letters, Greyed(live(letters), live(background)));
+  const auto set_grey = [&](QPalette::ColorRole letters, QPalette::ColorRole background, int lighter = 100) {
+    palette.setColor(QPalette::Disabled, letters, Greyed(live(letters), live(background), lighter));
+  };
+  set_grey(QPalette::WindowText, QPalette::Window);
+  set_grey(QPalette::Text, QPalette::Window);
+  set_grey(QPalette::ButtonText, QPalette::Button, kButtonLight);
 }
 
 int Program_Style::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
@@ -64,8 +68,26 @@ void Program_Style::drawPrimitive(PrimitiveElement element, const QStyleOption* 
   painter->restore();
 }
 
+QSize Program_Style::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
+                                      const QWidget* widget) const {
+  QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
+  const auto* entry = qstyleoption_cast<const QStyleOptionViewItem*>(option);
+  // Some Japanese fonts' lines are no higher than their letters.
+  if (type == CT_ItemViewItem && entry)
+    size.setHeight(std::max(size.height(), QFontInfo(entry->font).pixelSize() * 5 / 3));
+  return size;
+}
+
 void Program_Style::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
                                 const QWidget* widget) const {
+  if (element == CE_MenuBarItem || element == CE_MenuBarEmptyArea) {
+    // Without the style's line below, which has gaps; the window has a rule of its own there.
+    painter->save();
+    painter->setClipRect(option->rect.adjusted(0, 0, 0, -1), Qt::IntersectClip);
+    QProxyStyle::drawControl(element, option, painter, widget);
+    painter->restore();
+    return;
+  }
   const auto* frame = qstyleoption_cast<const QStyleOptionFrame*>(option);
   if (element != CE_ShapedFrame || !frame ||
       (frame->frameShape != QFrame::Panel && frame->frameShape != QFrame::StyledPanel))

@@ -82,7 +82,11 @@ TEST_F(GridView, ClicksAndKeysMoveTheCurrentCellInSightButNotIntoTheHeaders) {
 TEST_F(GridView, AGridThatIsNotTheImageIsGreyAndSaysWhy) {
   const QImage good = view.grab().toImage();
   grid.Set_OutOfDate("前の内容です。");
-  EXPECT_NE(view.grab().toImage(), good);
+  grid.Set_WeakFrom(1);
+  const QImage stale = view.grab().toImage();
+  EXPECT_NE(stale, good);
+  grid.Set_Text("");
+  EXPECT_NE(view.grab().toImage(), stale) << "what is written since is live";
   EXPECT_EQ(view.toolTip(), "前の内容です。");
   EXPECT_EQ(QAccessible::queryAccessibleInterface(&view)->text(QAccessible::Description), view.toolTip());
   grid.Set_OutOfDate("");
