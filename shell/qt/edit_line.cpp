@@ -117,7 +117,7 @@ void Edit_Line::Seat_Letters() {
   const int as_it_is = room.top() + (room.height() - metrics.height() + 1) / 2 + metrics.ascent();
   const int shift = Base_Line(QStringLiteral("0gｱ"), font(), room, Qt::AlignVCenter) - as_it_is;
   // A margin below nothing, since what goes beyond the box is cut.
-  setTextMargins(0, std::min(2 * shift, 0), 0, std::min(-2 * shift, 0));
+  setTextMargins(1, std::min(2 * shift, 0), 0, std::min(-2 * shift, 0));
 }
 
 }  // namespace wrenbit
