@@ -142,7 +142,7 @@ std::optional<std::string> Ask_Identity() {
   Query();
   for (int slept = 0; slept < kSettle && !MSComm1.Lost(); slept += kSettleStep) Sleep(kSettleStep);
   DoEvents();
-  const std::size_t first_answer = MSComm1.InBufferCount();
+  const std::string first_answer = Received();
   const double asked = Timer();
   if (Query()) Await_Bytes(kReplyLength, kPiecePause);
   if (MSComm1.InBufferCount() < kReplyLength) return std::nullopt;
@@ -150,19 +150,19 @@ std::optional<std::string> Ask_Identity() {
   const double took = Timer() - asked;
   std::string said = Received();
   // What of the answer is still to come must not pass for the reply to the next command.
-  const bool in_pieces = took > kInOnePiece || (first_answer > 0 && first_answer < kReplyLength);
-  const double pause = in_pieces ? kPiecePause : kPause;
-  if (first_answer >= kReplyLength && said.starts_with(kWord)) {
+  if (first_answer.size() >= kReplyLength && said.starts_with(kWord)) {
     MSComm1.Learn_Pace(1 + kReplyLength, took);
-    Await_Rest(first_answer - std::min(first_answer, said.size()), pause);
+    Await_Rest(first_answer.size() - std::min(first_answer.size(), said.size()), kPiecePause);
   } else {  // A first answer that comes late could pass for a fast second one.
-    Await_Rest(kAnyNumber, pause);
+    Await_Rest(kAnyNumber, took > kInOnePiece || !first_answer.empty() ? kPiecePause : kPause);
   }
   said += Received();
   MSComm1.Forget_Unasked();
 
-  // What was left of a first answer stands before the second.
-  if (const std::size_t word = said.find(kWord); first_answer > 0 && word != said.npos) said.erase(0, word);
+  // What was left of a first answer stands before the second. An answer that does not begin with the word is
+  // no board's, wherever the word stands in it.
+  if (!first_answer.empty() && kWord.starts_with(first_answer.substr(0, kWord.size())))
+    if (const std::size_t word = said.find(kWord); word != said.npos) said.erase(0, word);
   if (said.size() < kReplyLength) return std::nullopt;
   return said.substr(0, kTextLength);
 }

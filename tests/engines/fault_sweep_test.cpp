@@ -233,7 +233,7 @@ class One_Run {
   // The last read-back of the power-off is the one that failed.
   std::string Error_Text() const {
     if (!On_The_Bus()) {
-      const bool answered = Bench.Received >= 17;
+      const bool answered = Bench.Received >= 2 * 17;  // To both queries.
       const char* reason = Faulty.Gone() ? "ポートが切断されました。" : "";
       return std::string("プログラマ接続確認エラー。") + (answered ? "" : "【1】") + reason;
     }

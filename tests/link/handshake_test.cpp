@@ -114,8 +114,8 @@ TEST_F(Handshake_Test, RepliesThatAreNoneEndTheTransfer) {
   const std::tuple<std::string, const char*, double> cases[] = {
       {"", "プログラマ接続確認エラー。【1】", 1.05},
       {"TOLVEX fw. 5.00\r", "プログラマ接続確認エラー。【1】", 1.05},
-      {"tolvex fw. 5.00\r\n", "プログラマ接続確認エラー。", 0.07},
-      {"HELLO, I AM A MODEM", "プログラマ接続確認エラー。", 0.07},
+      {"tolvex fw. 5.00\r\n", "プログラマ接続確認エラー。", 0.32},
+      {"HELLO, I AM A MODEM", "プログラマ接続確認エラー。", 0.32},
   };
   ProgrammerVersion = 5.0F;
   for (const auto& [says, text, seconds] : cases) {
@@ -131,6 +131,10 @@ TEST_F(Handshake_Test, RepliesThatAreNoneEndTheTransfer) {
     EXPECT_NEAR(bench.Now() - before, seconds, 0.03);
   }
   EXPECT_TRUE(bench.Kept.empty());
+
+  Answer("?TOLVEX fw. 5.00\r\n");
+  Read_Version();
+  EXPECT_EQ(LinkError, 1) << "the word is not where it belongs";
 }
 
 TEST_F(Handshake_Test, TheVersionDecidesByItsNumber) {
