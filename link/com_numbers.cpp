@@ -114,10 +114,13 @@ std::optional<Serial_Device> Com_Numbers::Device(int number) const {
 void Com_Numbers::Give(int number, const Serial_Device& device) const {
   if (device.Path.empty() || device.Place.empty() || Has_Link(number)) return;
   std::map<int, Owner> owners = Owners();
-  // Many cheap adapters share one serial number.
+  // Many cheap adapters share one serial number. That two of them were seen together once stays known.
   const std::vector<Serial_Device> present = Serial_Devices_Present(system);
-  const auto with_it = std::ranges::count_if(present, [&](const auto& d) { return Same_Serial(device, d); });
-  owners[number] = {!device.Serial.empty() && with_it <= 1, device};
+  const auto same = [&](const Serial_Device& other) { return Same_Serial(device, other); };
+  const bool shared =
+      std::ranges::count_if(present, same) > 1 ||
+      std::ranges::any_of(owners, [&](const auto& o) { return !o.second.BySerial && same(o.second.Device); });
+  owners[number] = {!device.Serial.empty() && !shared, device};
 
   std::string text = kFirstLine;
   for (const auto& [owned, owner] : owners) {

@@ -107,6 +107,7 @@ TEST_F(Com_Ports, ANumberStaysWithTheBoardThatAnsweredInWhateverOrderTheyArePull
            {"+C01 =1 -0 +A02 +C11", "CA-"},
            {"+S01 +T12 =1 =2 -0 -1 +T02 +S11", "ST-"},
            {"+S01 =1 +T12 =2 -0 -1 +T03", "-S-TT"},
+           {"+S01 +T12 =1 -1 =1 -0 +T12", "-ST-"},
        }) {
     fs::remove_all(system);
     fs::remove(config / "com-numbers");
