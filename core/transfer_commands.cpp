@@ -29,6 +29,8 @@ void Set_Commands_Enabled(bool enabled) {
     control->Set_Enabled(enabled);
 }
 
+bool Family_Known() { return DeviceFamily == 2 || DeviceFamily == 3; }
+
 using Engine = void (*)();
 void Run_Engine(Engine c24, Engine c93) {
   if (!Image_Usable()) return Fail(kWrongSize);
@@ -62,7 +64,7 @@ void Cmd_READ_all_Click() {
   Run_Engine(C24_AllRead, C93_AllRead);
   if (LinkError == 0) {
     Grid_Refill();
-    Grid_Unread_From(1 << AccessSize);
+    Grid_Unread_From(Family_Known() ? 1 << AccessSize : 0);
   } else {
     Grid_Out_Of_Date();
   }

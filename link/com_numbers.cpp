@@ -2,13 +2,14 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <cstdlib>
 #include <sstream>
 #include <string>
+#include <string_view>
 #include <system_error>
 #include <utility>
 #include <vector>
 
-#include "number_text.h"
 #include "whole_file.h"
 
 namespace wrenbit {
@@ -50,7 +51,8 @@ bool Com_Numbers::Has_Link(int number) const {
   return fs::is_symlink(Link(number), ignored) && !Lock_Was_Left_Behind(Link(number) += ".lock");
 }
 
-// Lines that are none are passed over.
+// A line that is damaged keeps its number for a device that is away: who knows whose it was. Any other text
+// is passed over.
 std::map<int, Com_Numbers::Owner> Com_Numbers::Owners() const {
   std::map<int, Owner> owners;
   std::istringstream lines(Read_Whole_File(file.string()).value_or(""));
@@ -61,10 +63,11 @@ std::map<int, Com_Numbers::Owner> Com_Numbers::Owners() const {
     for (std::string* field :
          {&com, &known_by, &device.Kind, &device.Serial, &device.Place, &device.Maker, &device.Product})
       std::getline(fields, *field, '\t');
-    if (!com.starts_with(kPrefix) || device.Place.empty()) continue;
-    if (known_by != kBySerial && known_by != kByPlace) continue;
-    const int number = Whole_Number(com.substr(std::string(kPrefix).size())).value_or(0);
-    if (number >= 1 && number <= kComPorts) owners.emplace(number, Owner{known_by == kBySerial, device});
+    if (!com.starts_with(kPrefix)) continue;
+    const int number = std::atoi(com.c_str() + std::string_view(kPrefix).size());
+    if (number < 1 || number > kComPorts) continue;
+    const bool whole = (known_by == kBySerial || known_by == kByPlace) && !device.Place.empty();
+    owners.emplace(number, whole ? Owner{known_by == kBySerial, device} : Owner{false, {}});
   }
   return owners;
 }
@@ -86,7 +89,7 @@ std::optional<Serial_Device> Com_Numbers::Device(int number) const {
     for (const auto& [owned, owner] : owners) {
       const auto found = std::ranges::find_if(
           devices, [&, &who = owner](const Serial_Device& d) { return is_owner(who, d); });
-      if (at_home.contains(owned) || found == devices.end()) continue;
+      if (at_home.contains(owned) || Has_Link(owned) || found == devices.end()) continue;
       at_home.emplace(owned, *found);
       devices.erase(found);
     }
@@ -120,6 +123,12 @@ void Com_Numbers::Give(int number, const Serial_Device& device) const {
   const bool shared =
       std::ranges::count_if(present, same) > 1 ||
       std::ranges::any_of(owners, [&](const auto& o) { return !o.second.BySerial && same(o.second.Device); });
+  for (auto& [owned, owner] : owners)
+    if (shared && same(owner.Device)) owner.BySerial = false;
+  // It leaves the number that it had.
+  std::erase_if(owners, [&](const auto& o) {
+    return Same_Place(o.second.Device, device) || (o.second.BySerial && same(o.second.Device));
+  });
   owners[number] = {!device.Serial.empty() && !shared, device};
 
   std::string text = kFirstLine;
@@ -131,7 +140,9 @@ void Com_Numbers::Give(int number, const Serial_Device& device) const {
       text += '\t' + field;
     text += '\n';
   }
-  if (Read_Whole_File(file.string()) != text) Write_Whole_File(file.string(), text);
+  std::error_code ignored;
+  const std::optional<std::string> before = Read_Whole_File(file.string());
+  if (before ? *before != text : !fs::exists(file, ignored)) Write_Whole_File(file.string(), text);
 }
 
 }  // namespace wrenbit

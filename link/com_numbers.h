@@ -20,13 +20,14 @@ class Com_Numbers {
 
   // The device of COMn, as things are now: the target of the link ports/COMn; else the device that the number
   // belongs to, its Path empty while it is away. What numbers are left go, in COM order, to the devices that
-  // own none and have no link. Nothing when n is outside 1 to 20, no device is left for it, or the link leads
-  // to none. A virtual board holds a lock on COMn.lock beside its
-  // link; a link whose lock nobody holds was left behind by a board that was killed, and counts as absent.
+  // own none, or whose own one has a link to another, and which no link names. Nothing when n is outside 1 to
+  // 20, no device is left for it, or the link leads to none. A virtual board holds a lock on COMn.lock beside
+  // its link; a link whose lock nobody holds was left behind by a board that was killed, and counts as
+  // absent.
   std::optional<Serial_Device> Device(int number) const;
 
-  // The number belongs to this device, which Device gave for it, from now on. Nothing changes when that is
-  // away or the number has a link, nor where the file cannot be written.
+  // The number belongs to this device, which Device gave for it, from now on; one that it had is free.
+  // Nothing changes when it is away or the number has a link, nor where the file cannot be read or written.
   void Give(int number, const Serial_Device& device) const;
 
  private:

@@ -59,8 +59,11 @@ void Cmb_com_Click() {
   MSComm1.Close();
   SaveSetting(key::kComNo, std::to_string(frmCom.Cmb_com.ListIndex()));
   MSComm1.CommPort = frmCom.Cmb_com.ListIndex() + 1;
+  const bool picked =
+      frmCom.Visible();  // By the user, who may close the window while the rights are awaited.
   const Port_Fault fault = MSComm1.Open();
-  if (frmCom.Visible()) MSComm1.Keep_Number();  // The user's own pick.
+  if (picked && !frmCom.Visible()) return;
+  if (picked) MSComm1.Keep_Number();
   if (fault != Port_Fault::None)
     MsgBox("指定した通信ポートは使用できませんでした。", Message_Icon::Critical, Message_Buttons::Ok,
            App.Title);

@@ -86,9 +86,11 @@ TEST_F(Com_Ports, ALinkDecidesUnlessAKilledBoardLeftItBehind) {
   const fs::path lock = config / "ports/COM1.lock";
   Put_Content(lock, "");
   EXPECT_EQ(Path_Of_Com(1), "/dev/ttyS0");
+  numbers.Give(1, *numbers.Device(1));
   const int board = open(lock.c_str(), O_RDWR);
   ASSERT_EQ(flock(board, LOCK_EX), 0);
   EXPECT_EQ(Path_Of_Com(1), "/dev/zero") << "the board lives";
+  EXPECT_EQ(Path_Of_Com(3), "/dev/ttyS0") << "whose number it has";
   close(board);
 }
 
@@ -132,10 +134,10 @@ TEST_F(Com_Ports, ANumberStaysWithTheBoardThatAnsweredInWhateverOrderTheyArePull
   }
 }
 
-TEST_F(Com_Ports, DamagedLinesOwnNothingAndANewDeviceGetsNoneOfTwentyOwnedNumbers) {
+TEST_F(Com_Ports, ADamagedLineKeepsItsNumberAndANewDeviceGetsNoneOfTwentyOwnedOnes) {
   Add("ttyS0", "pnp0/serial0");
-  std::string text = "COM\nCOM1\tplace\nCOM1\tluck\t\t\tttyS0\nCOM0\tplace\t\t\tttyS0\n";
-  for (int number = 1; number <= 20; ++number)
+  std::string text = "COM\nCOM1 place   ttyS0\nCOM2\tluck\t\t\tttyS0\nCOM0\tplace\t\t\tttyS0\n";
+  for (int number = 3; number <= 20; ++number)
     text += "COM" + std::to_string(number) + "\tplace\t\t\tttyS9\n";
   Put_Content(config / "com-numbers", text);
   for (int number = 1; number <= 20; ++number) EXPECT_EQ(Path_Of_Com(number), "");
