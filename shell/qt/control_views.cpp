@@ -40,8 +40,9 @@ void Follow(Control& control, Show show) {
 
 void Show_Tip(QWidget& view, const Control& control) {
   const QString tip = Text_Of(control.OutOfDate().empty() ? control.ToolTipText() : control.OutOfDate());
+  if (view.toolTip() == tip) return;
   view.setToolTip(tip);
-  if (view.accessibleDescription() != tip) view.setAccessibleDescription(tip);
+  view.setAccessibleDescription(tip);
 }
 
 // Letters and marks as in a disabled view.
