@@ -102,10 +102,10 @@ void Draw_Fitted(QPainter& painter, const QRect& room, Qt::Alignment alignment, 
 }
 
 void Draw_In_Columns(QPainter& painter, const QRect& room, const QString& text) {
+  constexpr QChar kDelete(0x7F);  // Fonts draw nothing for it, or a box of any width.
+  if (!text.contains(kDelete)) return Draw_Fitted(painter, room, Qt::AlignVCenter, text);
   const QFontMetricsF metrics(painter.font());
   const double column = metrics.horizontalAdvance('0');
-  if (metrics.horizontalAdvance(text) <= static_cast<double>(text.size()) * column)
-    return Draw_Fitted(painter, room, Qt::AlignVCenter, text);
   const int base_line = Base_Line(text, painter.font(), room, Qt::AlignVCenter);
   for (qsizetype i = 0; i < text.size(); ++i) {
     const double width = metrics.horizontalAdvance(text[i]);

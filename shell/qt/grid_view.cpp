@@ -36,6 +36,7 @@ void Grid_View::Set_Scroll_Range() {
 
 void Grid_View::Follow() {
   Set_Scroll_Range();
+  address_width = fontMetrics().horizontalAdvance(Text_Of(grid.Cell(1, 0))) + 2 * kPadding;
   if (isHidden())
     row_in_sight = -1;  // A refill runs through all rows.
   else if (grid.Row() != row_in_sight)
@@ -57,8 +58,7 @@ void Grid_View::Show_Current_Row() {
 
 int Grid_View::Column_Left(int col) const {
   if (col == 0) return 0;
-  int left = std::max(Pixels(grid.ColWidth(0)),
-                      fontMetrics().horizontalAdvance(Text_Of(grid.Cell(1, 0))) + 2 * kPadding);
+  int left = std::max(Pixels(grid.ColWidth(0)), address_width);
   for (int c = 1; c < col; ++c) left += Pixels(grid.ColWidth(c));
   return left;
 }

@@ -58,6 +58,7 @@ class Grid_View : public QAbstractScrollArea {
   void Move_To(int row, int col);       // Or as near as the grid reaches.
 
   FlexGrid& grid;
+  int address_width = 0;  // Pixels that an address takes; the column may be wider.
   int row_in_sight = -1;  // The current cell's row at the last look.
 };
 
