@@ -24,6 +24,8 @@ struct Serial_Device {
   // The socket of a USB device, without the number of its bus, which changes from boot to boot; the name of a
   // built-in port.
   std::string Place = {};
+
+  bool operator==(const Serial_Device&) const = default;
 };
 
 // USB adapters first, in the order of their numbers, then the built-in ports in theirs. So one adapter,

@@ -1,5 +1,7 @@
 #include "frm_com.h"
 
+#include <array>
+#include <cstddef>
 #include <optional>
 #include <string>
 
@@ -18,9 +20,13 @@ namespace {
 
 void Save_Line(const char* key, const CheckBox& box) { SaveSetting(key, box.Value() == 0 ? "0" : "1"); }
 
+// The devices that the tips have named since the window was opened, by entry.
+std::array<std::optional<Serial_Device>, kComPorts> Named;
+
 // "/dev/ttyUSB0  FTDI  FT232R USB UART"
 std::string Device_Text(int entry) {
   const std::optional<Serial_Device> device = MSComm1.Device(entry + 1);
+  Named.at(static_cast<std::size_t>(entry)) = device;
   if (!device) return "この番号のシリアルポートはありません。";
   std::string text = device->Path;
   const auto add = [&](const std::string& name) {
@@ -40,6 +46,7 @@ std::string Device_Text(int entry) {
 // Selecting the stored port opens it, as a pick of the user's does.
 void Form_Load() {
   MSComm1.Close();
+  Named = {};
   frmCom.Cmb_com.Clear();
   for (int number = 1; number <= kComPorts; ++number) frmCom.Cmb_com.AddItem(std::to_string(number));
   frmCom.Cmb_com.Set_ListIndex(static_cast<int>(Get_Number_Setting(key::kComNo, 0)));
@@ -63,7 +70,9 @@ void Cmb_com_Click() {
       frmCom.Visible();  // By the user, who may close the window while the rights are awaited.
   const Port_Fault fault = MSComm1.Open();
   if (picked && !frmCom.Visible()) return;
-  if (picked) MSComm1.Keep_Number();
+  // The number goes to the device that was named, not to one that was plugged in since.
+  const auto& named = Named.at(static_cast<std::size_t>(frmCom.Cmb_com.ListIndex()));
+  if (picked && (!named || named == MSComm1.Device(MSComm1.CommPort))) MSComm1.Keep_Number();
   if (fault != Port_Fault::None)
     MsgBox("指定した通信ポートは使用できませんでした。", Message_Icon::Critical, Message_Buttons::Ok,
            App.Title);

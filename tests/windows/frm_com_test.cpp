@@ -71,6 +71,12 @@ TEST_F(Port_Window, EachEntryTellsItsDevice) {
   EXPECT_EQ(frmCom.Cmb_com.Tip(1), "この番号のシリアルポートはありません。");
   EXPECT_EQ(frmCom.Cmb_com.Tip(2), "Maker  A5  接続されていません。");
   EXPECT_EQ(frmCom.Cmb_com.Tip(19), "/dev/ttyS0  受信を8バイトまとめるので応答が遅れます。");
+
+  frmCom.Show_Modal();
+  frmCom.Cmb_com.Tip(2);
+  bench.Devices[3] = {.Path = "/dev/ttyUSB1", .Serial = "B5"};
+  frmCom.Cmb_com.Set_ListIndex(2);
+  EXPECT_TRUE(bench.Kept.empty()) << "another than the tip named";
 }
 
 TEST_F(Port_Window, ASecondClickWhileItLoadsLeavesAWindowThatCloses) {
