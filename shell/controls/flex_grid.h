@@ -41,8 +41,8 @@ class FlexGrid : public Control {
   std::string Text() const { return std::string(Cell(row, col)); }
   void Set_Text(std::string_view text);
 
-  // The cells of this row and of those below are weaker than the others, and in a grid that is out of date
-  // they are what is, but for what Set_Text writes from now on. Until it is set again; 0 for none.
+  // The cells of this row and of those below are weaker than the others, but for what Set_Text writes from
+  // now on. In a grid that is out of date, it is the weak ones that are. Until it is set again; 0 for none.
   void Set_WeakFrom(int first_row);
   bool Weak(int at_row, int at_col) const;
 

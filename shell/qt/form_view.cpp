@@ -51,8 +51,8 @@ Form_View::Form_View(Form& shown, Form_Kind what, QWidget* owner)
   Make_Views();
   Hook_Form();
   if (kind != Form_Kind::Main) return;
-  winId();  // Makes the window, which can be told where its frame is to stand; a widget cannot before it
-            // shows.
+  // Makes the window itself, which can be told where its frame is to stand; a widget forgets it as it shows.
+  winId();
   connect(windowHandle(), &QWindow::visibleChanged, this, [this](bool visible) {
     if (visible) Place_Frame();
   });
