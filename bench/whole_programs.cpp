@@ -37,21 +37,21 @@ class Showing {
 
 void Measure_Whole_Programs(Report& report) {
   report.Begin("The whole program");
-  const char* const kEmpty = "an empty Qt window";
+  const char* const what = "an empty Qt window";
   const Temporary_Folder folder;
   const Showing empty("empty-window"), label("empty-window", {"読み出し"}), program("shown-program"),
       largest_chip("shown-program", {"largest", folder.File("image.hex")});
   const auto start = [&](const char* subject, const Showing& shown, std::optional<double> goal) {
     const auto [seconds, bare] = In_Turns(
         kRuns, [&] { return shown.Seconds(); }, [&] { return empty.Seconds(); });
-    report.Add({subject, seconds, kEmpty, bare, "s", goal});
+    report.Add({subject, seconds, what, bare, "s", goal});
   };
   start("start to the shown window", program, 1.3);
   start("  the same of a window with one label", label, {});
   const auto memory = [&](const char* subject, const Showing& shown) {
     const auto [bytes, bare] = In_Turns(
         kRuns, [&] { return shown.Memory(); }, [&] { return empty.Memory(); });
-    report.Add({subject, bytes, kEmpty, bare, "B", {}});
+    report.Add({subject, bytes, what, bare, "B", {}});
     return bytes - bare;
   };
   const auto more = [&](const char* subject, double bytes, std::optional<double> goal) {

@@ -18,7 +18,7 @@ class Board_Terminal {
   Board_Terminal();
 
   // The device that the PC opens, as often as it likes.
-  const std::string& Device() const { return Name; }
+  const std::string& Device() const { return name; }
 
   // Carries bytes between the PC and `end` until a signal asks for the stop, and hands each line that is
   // typed meanwhile to `told`. A PC that doesn't read loses the replies that the terminal can't hold. Throws
@@ -31,10 +31,10 @@ class Board_Terminal {
   // is never, since the slave is held open, and a PC program that was killed would shut out all that follow.
   void Unclaim();
 
-  Descriptor Master;
-  Descriptor Slave;     // Held open, or the master would see a hang-up each time the PC closes the port.
-  Descriptor Closings;  // Readable when the PC has closed the port; none where the system gives no watch.
-  std::string Name;
+  Descriptor master;
+  Descriptor slave;     // Held open, or the master would see a hang-up each time the PC closes the port.
+  Descriptor closings;  // Readable when the PC has closed the port; none where the system gives no watch.
+  std::string name;
 };
 
 }  // namespace board

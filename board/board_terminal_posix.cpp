@@ -94,19 +94,19 @@ void Put_Out(int master, std::deque<Waiting>& replies) {
 
 }  // namespace
 
-Board_Terminal::Board_Terminal() : Master(posix_openpt(O_RDWR | O_NOCTTY | O_CLOEXEC | O_NONBLOCK)) {
-  if (!Master || grantpt(*Master) != 0 || unlockpt(*Master) != 0) Throw_Errno("opening a pseudo terminal");
-  std::array<char, 128> name;
-  if (ptsname_r(*Master, name.data(), name.size()) != 0) Throw_Errno("naming the pseudo terminal");
-  Name = name.data();
-  Slave = Descriptor(open(Name.c_str(), O_RDWR | O_NOCTTY | O_CLOEXEC));
+Board_Terminal::Board_Terminal() : master(posix_openpt(O_RDWR | O_NOCTTY | O_CLOEXEC | O_NONBLOCK)) {
+  if (!master || grantpt(*master) != 0 || unlockpt(*master) != 0) Throw_Errno("opening a pseudo terminal");
+  std::array<char, 128> path;
+  if (ptsname_r(*master, path.data(), path.size()) != 0) Throw_Errno("naming the pseudo terminal");
+  name = path.data();
+  slave = Descriptor(open(name.c_str(), O_RDWR | O_NOCTTY | O_CLOEXEC));
   termios mode{};
-  if (!Slave || tcgetattr(*Slave, &mode) != 0) Throw_Errno(Name);
+  if (!slave || tcgetattr(*slave, &mode) != 0) Throw_Errno(name);
   cfmakeraw(&mode);
   cfsetspeed(&mode, B9600);
-  if (tcsetattr(*Slave, TCSANOW, &mode) != 0) Throw_Errno(Name);
-  Closings = Descriptor(inotify_init1(IN_NONBLOCK | IN_CLOEXEC));
-  if (Closings) inotify_add_watch(*Closings, Name.c_str(), IN_CLOSE);
+  if (tcsetattr(*slave, TCSANOW, &mode) != 0) Throw_Errno(name);
+  closings = Descriptor(inotify_init1(IN_NONBLOCK | IN_CLOEXEC));
+  if (closings) inotify_add_watch(*closings, name.c_str(), IN_CLOSE);
   Hold_Stop_Signals();
 }
 
@@ -115,14 +115,14 @@ void Board_Terminal::Serve(Wire_End& end, const Port_Timing& timing, Typed_Lines
   Wire_Schedule wire(timing);
   std::deque<Waiting> replies;
   while (!Stop_Asked()) {
-    pollfd files[] = {{.fd = *Master, .events = POLLIN, .revents = 0},
-                      {.fd = *Closings, .events = POLLIN, .revents = 0},
+    pollfd files[] = {{.fd = *master, .events = POLLIN, .revents = 0},
+                      {.fd = *closings, .events = POLLIN, .revents = 0},
                       {.fd = typed.Number(), .events = POLLIN, .revents = 0}};
-    auto& [master, closings, keyboard] = files;
+    auto& [pc, closed, keyboard] = files;
     const auto now = Clock::now();
     std::optional<Nanoseconds> rest;
     if (!replies.empty() && replies.front().Due <= now) {
-      master.events |= POLLOUT;
+      pc.events |= POLLOUT;
     } else if (wire.Awake(now)) {
       rest = Nanoseconds(0);
     } else if (!replies.empty()) {
@@ -134,9 +134,9 @@ void Board_Terminal::Serve(Wire_End& end, const Port_Timing& timing, Typed_Lines
       if (errno == EINTR) continue;
       Throw_Errno("waiting for the terminal");
     }
-    if (closings.revents & POLLIN) Unclaim();
-    if (master.revents & POLLOUT) Put_Out(*Master, replies);
-    if (master.revents & POLLIN) Take_In(*Master, end, wire, replies);
+    if (closed.revents & POLLIN) Unclaim();
+    if (pc.revents & POLLOUT) Put_Out(*master, replies);
+    if (pc.revents & POLLIN) Take_In(*master, end, wire, replies);
     if (!keyboard.revents) continue;
     for (const std::string& line : typed.Take()) told(line);
   }
@@ -144,8 +144,8 @@ void Board_Terminal::Serve(Wire_End& end, const Port_Timing& timing, Typed_Lines
 
 void Board_Terminal::Unclaim() {
   std::array<char, 4096> events;
-  while (read(*Closings, events.data(), events.size()) > 0) continue;
-  ioctl(*Slave, TIOCNXCL);
+  while (read(*closings, events.data(), events.size()) > 0) continue;
+  ioctl(*slave, TIOCNXCL);
 }
 
 }  // namespace board

@@ -5,20 +5,20 @@
 namespace board {
 
 void Chip_Socket::Insert(std::unique_ptr<Chip> chip) {
-  if (Seated) Seated->Sense({}, Now);  // Its supply goes with it.
-  Seated = std::move(chip);
-  if (Seated) Seated->Sense(Current, Now);
+  if (seated) seated->Sense({}, clock);  // Its supply goes with it.
+  seated = std::move(chip);
+  if (seated) seated->Sense(current, clock);
   Settle();
 }
 
 void Chip_Socket::Stick(Line line, bool high) {
-  Stuck[line] = high;
+  stuck[line] = high;
   Settle();
 }
 
-void Chip_Socket::Follow(const Drives& by_board, double now) {
-  ByBoard = by_board;
-  Now = now;
+void Chip_Socket::Follow(const Drives& board, double now) {
+  by_board = board;
+  clock = now;
   Settle();
 }
 
@@ -27,16 +27,16 @@ void Chip_Socket::Follow(const Drives& by_board, double now) {
 Levels Chip_Socket::Resolve() const {
   Levels levels;
   for (const Line line : kLines) {
-    const Drive board = ByBoard[line];
-    const Drive chip = Seated ? Seated->Drives_Line(line, Now) : Drive::kReleased;
-    if (Stuck[line]) {
-      levels[line] = *Stuck[line];
-    } else if (board == Drive::kLow || chip == Drive::kLow) {
+    const Drive board = by_board[line];
+    const Drive chip = seated ? seated->Drives_Line(line, clock) : Drive::Released;
+    if (stuck[line]) {
+      levels[line] = *stuck[line];
+    } else if (board == Drive::Low || chip == Drive::Low) {
       levels[line] = false;
-    } else if (board == Drive::kHigh || chip == Drive::kHigh) {
+    } else if (board == Drive::High || chip == Drive::High) {
       levels[line] = true;
     } else {
-      levels[line] = line != Line::kSupply && levels[Line::kSupply];
+      levels[line] = line != Line::Supply && levels[Line::Supply];
     }
   }
   return levels;
@@ -44,9 +44,9 @@ Levels Chip_Socket::Resolve() const {
 
 // A chip answers an edge by driving a line, so the levels are worked out until they stand still.
 void Chip_Socket::Settle() {
-  for (Levels next = Resolve(); next != Current; next = Resolve()) {
-    Current = next;
-    if (Seated) Seated->Sense(Current, Now);
+  for (Levels next = Resolve(); next != current; next = Resolve()) {
+    current = next;
+    if (seated) seated->Sense(current, clock);
   }
 }
 

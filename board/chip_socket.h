@@ -12,21 +12,20 @@
 namespace board {
 
 // Named after the chips' pins: SCL and SDA are the two-wire bus; CS, SK, DI and DO the three-wire one.
-enum class Line : std::uint8_t { kSupply, kScl, kSda, kCs, kSk, kDi, kDo };
-inline constexpr Line kLines[] = {Line::kSupply, Line::kScl, Line::kSda, Line::kCs,
-                                  Line::kSk,     Line::kDi,  Line::kDo};
+enum class Line : std::uint8_t { Supply, Scl, Sda, Cs, Sk, Di, Do };
+inline constexpr Line kLines[] = {Line::Supply, Line::Scl, Line::Sda, Line::Cs, Line::Sk, Line::Di, Line::Do};
 
-enum class Drive : std::uint8_t { kReleased, kLow, kHigh };
+enum class Drive : std::uint8_t { Released, Low, High };
 
 template <class T>
 class Per_Line {
  public:
-  T& operator[](Line line) { return Values[static_cast<std::size_t>(line)]; }
-  const T& operator[](Line line) const { return Values[static_cast<std::size_t>(line)]; }
+  T& operator[](Line line) { return values[static_cast<std::size_t>(line)]; }
+  const T& operator[](Line line) const { return values[static_cast<std::size_t>(line)]; }
   bool operator==(const Per_Line&) const = default;
 
  private:
-  std::array<T, std::size(kLines)> Values{};
+  std::array<T, std::size(kLines)> values{};
 };
 
 using Levels = Per_Line<bool>;
@@ -53,19 +52,19 @@ class Chip_Socket {
   void Stick(Line line, bool high);
 
   // What the board does to the lines from `now` on, in seconds of wire time.
-  void Follow(const Drives& by_board, double now);
+  void Follow(const Drives& board, double now);
 
-  bool Level(Line line) const { return Current[line]; }
+  bool Level(Line line) const { return current[line]; }
 
  private:
   Levels Resolve() const;
   void Settle();
 
-  std::unique_ptr<Chip> Seated;
-  Drives ByBoard;
-  Per_Line<std::optional<bool>> Stuck;
-  Levels Current;
-  double Now = 0;
+  std::unique_ptr<Chip> seated;
+  Drives by_board;
+  Per_Line<std::optional<bool>> stuck;
+  Levels current;
+  double clock = 0;
 };
 
 }  // namespace board

@@ -19,8 +19,8 @@ class Com_Port_Lock {
   Com_Port_Lock& operator=(const Com_Port_Lock&) = delete;
 
  private:
-  std::filesystem::path Path;
-  Descriptor File;
+  std::filesystem::path path;
+  Descriptor file;
 };
 
 class Com_Port_Link {
@@ -32,9 +32,9 @@ class Com_Port_Link {
   ~Com_Port_Link();
 
  private:
-  std::filesystem::path Path;
-  std::string Device;
-  Com_Port_Lock Lock;
+  std::filesystem::path path;
+  std::string device;
+  Com_Port_Lock lock;
 };
 
 }  // namespace board

@@ -66,32 +66,32 @@ bool Lock_Alone(int file, const fs::path& path) {
 
 }  // namespace
 
-Com_Port_Lock::Com_Port_Lock(const fs::path& link) : Path(With_Suffix(link, ".lock")) {
-  Refuse_Foreign(link, Path);
+Com_Port_Lock::Com_Port_Lock(const fs::path& link) : path(With_Suffix(link, ".lock")) {
+  Refuse_Foreign(link, path);
   // A board that ends may remove the file between the open and the lock; a lock on a nameless file keeps
   // nobody out.
   do {
-    File = Descriptor(open(Path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0666));
-    if (!File) Throw_Errno(Path.string());
-    if (!Lock_Alone(*File, Path))
+    file = Descriptor(open(path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0666));
+    if (!file) Throw_Errno(path.string());
+    if (!Lock_Alone(*file, path))
       throw std::runtime_error("another board is on " + link.filename().string() + " (" + link.string() +
                                ")");
-  } while (!Names_File(Path, *File));
+  } while (!Names_File(path, *file));
 }
 
-Com_Port_Lock::~Com_Port_Lock() { unlink(Path.c_str()); }
+Com_Port_Lock::~Com_Port_Lock() { unlink(path.c_str()); }
 
-Com_Port_Link::Com_Port_Link(int number, const std::string& device)
-    : Path(Ports_Folder() / ("COM" + std::to_string(number))), Device(device), Lock(Path) {
-  const fs::path made = With_Suffix(Path, ".new");
+Com_Port_Link::Com_Port_Link(int number, const std::string& target)
+    : path(Ports_Folder() / ("COM" + std::to_string(number))), device(target), lock(path) {
+  const fs::path made = With_Suffix(path, ".new");
   fs::remove(made);
-  fs::create_symlink(Device, made);
-  fs::rename(made, Path);
+  fs::create_symlink(device, made);
+  fs::rename(made, path);
 }
 
 Com_Port_Link::~Com_Port_Link() {
   std::error_code ignored;
-  if (fs::read_symlink(Path, ignored) == Device) fs::remove(Path, ignored);
+  if (fs::read_symlink(path, ignored) == device) fs::remove(path, ignored);
 }
 
 }  // namespace board

@@ -9,19 +9,19 @@ namespace board {
 class Descriptor {
  public:
   // Takes over what open() gave; a negative number stands for none.
-  explicit Descriptor(int number = -1) : Number(number) {}
-  Descriptor(Descriptor&& other) noexcept : Number(std::exchange(other.Number, -1)) {}
+  explicit Descriptor(int file = -1) : number(file) {}
+  Descriptor(Descriptor&& other) noexcept : number(std::exchange(other.number, -1)) {}
   Descriptor& operator=(Descriptor&& other) noexcept {
-    std::swap(Number, other.Number);
+    std::swap(number, other.number);
     return *this;
   }
   ~Descriptor();
 
-  explicit operator bool() const { return Number >= 0; }
-  int operator*() const { return Number; }
+  explicit operator bool() const { return number >= 0; }
+  int operator*() const { return number; }
 
  private:
-  int Number;
+  int number;
 };
 
 // Throws std::system_error for the present errno; `subject` opens its text.

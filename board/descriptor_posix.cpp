@@ -8,7 +8,7 @@
 namespace board {
 
 Descriptor::~Descriptor() {
-  if (Number >= 0) close(Number);
+  if (number >= 0) close(number);
 }
 
 void Throw_Errno(const std::string& subject) {

@@ -23,28 +23,28 @@ struct Faults {
 class Faulty_Board : public Wire_End {
  public:
   // `inner` must outlive this. Without faults it is heard as it is.
-  explicit Faulty_Board(Wire_End& inner, const Faults& faults = {}) : Inner(inner) { Arm(faults); }
+  explicit Faulty_Board(Wire_End& board, const Faults& faults = {}) : inner(board) { Arm(faults); }
 
   // Starts anew: other faults, all counts at 0, and a port that has gone is back.
   void Arm(const Faults& faults);
 
   Answer Receive(std::uint8_t byte) override;
-  bool Gone() const override { return HasGone || Inner.Gone(); }
-  std::uint64_t Commands() const override { return Inner.Commands(); }
+  bool Gone() const override { return has_gone || inner.Gone(); }
+  std::uint64_t Commands() const override { return inner.Commands(); }
   // A fault of those that were armed has come to pass.
-  bool Met() const { return HasMet; }
+  bool Met() const { return has_met; }
 
  private:
   // Whether the fault that begins at `first` is there at `count`; it is then met.
   bool From(std::uint64_t first, std::uint64_t count);
   bool At(std::uint64_t only, std::uint64_t count) { return only == count && From(only, count); }
 
-  Wire_End& Inner;
-  Faults Armed;
-  std::uint64_t CommandsBefore = 0;  // Those that the inner board had completed at the arming.
-  std::uint64_t Replies = 0;         // Those of the inner board since then.
-  bool HasGone = false;
-  bool HasMet = false;
+  Wire_End& inner;
+  Faults armed;
+  std::uint64_t commands_before = 0;  // Those that the inner board had completed at the arming.
+  std::uint64_t replies = 0;          // Those of the inner board since then.
+  bool has_gone = false;
+  bool has_met = false;
 };
 
 }  // namespace board

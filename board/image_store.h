@@ -23,9 +23,9 @@ class Image_Store : public Cell_Store {
   // Throws std::system_error when the file takes no byte.
   void Keep(std::size_t address, std::uint8_t value) override;
 
-  std::string Subject;  // Opens the text of every error.
-  std::string Path;
-  Descriptor File;
+  std::string subject;  // Opens the text of every error.
+  std::string path;
+  Descriptor file;
 };
 
 }  // namespace board

@@ -26,8 +26,8 @@ struct Wire {
 };
 
 constexpr Wire kWires[] = {
-    {Line::kSupply, kB, 0x40}, {Line::kScl, kA, 0x02}, {Line::kSda, kA, 0x04}, {Line::kCs, kC, 0x08},
-    {Line::kSk, kB, 0x10},     {Line::kDi, kB, 0x08},  {Line::kDo, kB, 0x04},
+    {Line::Supply, kB, 0x40}, {Line::Scl, kA, 0x02}, {Line::Sda, kA, 0x04}, {Line::Cs, kC, 0x08},
+    {Line::Sk, kB, 0x10},     {Line::Di, kB, 0x08},  {Line::Do, kB, 0x04},
 };
 
 std::uint8_t With(std::uint8_t byte, std::uint8_t mask, bool high) {
@@ -67,47 +67,47 @@ const Programmer_Board::Bus Programmer_Board::kTwoWire{.Port = kA, .Data = 0x04,
 const Programmer_Board::Bus Programmer_Board::kThreeWire{.Port = kB, .Data = 0x08, .Clock = 0x10};
 
 Programmer_Board::Programmer_Board(std::string_view version_text)
-    : HasAccelerators(At_Least_5(Four_Characters(version_text))) {
+    : has_accelerators(At_Least_5(Four_Characters(version_text))) {
   Identify_As("TOLVEX Ver." + Four_Characters(version_text) + "\r\n");
 }
 
 Answer Programmer_Board::Receive(std::uint8_t byte) {
-  ++BytesIn;
-  Frame.push_back(static_cast<char>(byte));
+  ++bytes_in;
+  frame.push_back(static_cast<char>(byte));
   const Command* command = Match();
   if (!command) {  // What came before is no command. This byte may begin one.
-    Frame.erase(0, Frame.size() - 1);
+    frame.erase(0, frame.size() - 1);
     command = Match();
   }
   if (!command) {
-    Frame.clear();
+    frame.clear();
     return {};
   }
-  if (Frame.size() < command->Word.size() + command->Operands) return {};
+  if (frame.size() < command->Word.size() + command->Operands) return {};
 
   Reply reply = (this->*command->Run)();
-  Frame.clear();
-  ++Completed;
-  BytesOut += reply.size();
+  frame.clear();
+  ++completed;
+  bytes_out += reply.size();
   return {.Bytes = std::move(reply)};
 }
 
 // The command that the frame is, or the first one that it can still become; null when there is none.
 const Programmer_Board::Command* Programmer_Board::Match() const {
   const auto found = std::ranges::find_if(kCommands, [this](const Command& command) {
-    const auto length = std::min(Frame.size(), command.Word.size());
-    return (HasAccelerators || !command.Accelerator) &&
-           command.Word.substr(0, length) == Frame.substr(0, length);
+    const auto length = std::min(frame.size(), command.Word.size());
+    return (has_accelerators || !command.Accelerator) &&
+           command.Word.substr(0, length) == frame.substr(0, length);
   });
   return found == std::end(kCommands) ? nullptr : found;
 }
 
 // A free pin floats. It reads high, so that a reader who forgets its mask is found out.
 std::uint8_t Programmer_Board::Pins(char port) const {
-  const Port& at = Ports[Index(port)];
+  const Port& at = ports[Index(port)];
   std::uint8_t pins = at.Latch | at.Direction;
   for (const Wire& wire : kWires) {
-    if (wire.Port == Index(port)) pins = With(pins, wire.Mask, Contacts.Level(wire.Name));
+    if (wire.Port == Index(port)) pins = With(pins, wire.Mask, contacts.Level(wire.Name));
   }
   return pins;
 }
@@ -127,7 +127,7 @@ Programmer_Board::Reply Programmer_Board::Set_Direction() {
 // A chip may have let go of a line meanwhile, with nothing driven anew.
 Programmer_Board::Reply Programmer_Board::Read_Pins() {
   Drive_Lines();
-  return {Pins(Frame.at(2))};
+  return {Pins(frame.at(2))};
 }
 
 Programmer_Board::Reply Programmer_Board::Send_Bit_1() {
@@ -170,7 +170,7 @@ Programmer_Board::Reply Programmer_Board::Send_Bits_93() {
 }
 
 void Programmer_Board::Drive_Bus(const Bus& bus, bool data, bool clock) {
-  std::uint8_t& latch = Ports[bus.Port].Latch;
+  std::uint8_t& latch = ports[bus.Port].Latch;
   latch = With(With(latch, bus.Data, data), bus.Clock, clock);
   Drive_Lines();
 }
@@ -183,12 +183,12 @@ void Programmer_Board::Clock_Out(const Bus& bus, bool bit) {
 
 // Leaves the data line driven low again, since start and stop conditions work through the latch.
 bool Programmer_Board::Clock_In_24() {
-  std::uint8_t& direction = Ports[kTwoWire.Port].Direction;
+  std::uint8_t& direction = ports[kTwoWire.Port].Direction;
   Drive_Bus(kTwoWire, true, false);
   direction = With(direction, kTwoWire.Data, true);
   Drive_Lines();
   Drive_Bus(kTwoWire, false, true);
-  const bool bit = Contacts.Level(Line::kSda);
+  const bool bit = contacts.Level(Line::Sda);
   Drive_Bus(kTwoWire, false, false);
   direction = With(direction, kTwoWire.Data, false);
   Drive_Lines();
@@ -197,7 +197,7 @@ bool Programmer_Board::Clock_In_24() {
 
 bool Programmer_Board::Clock_In_93() {
   Drive_Bus(kThreeWire, false, true);
-  const bool bit = Contacts.Level(Line::kDo);
+  const bool bit = contacts.Level(Line::Do);
   Drive_Bus(kThreeWire, false, false);
   return bit;
 }
@@ -205,11 +205,11 @@ bool Programmer_Board::Clock_In_93() {
 void Programmer_Board::Drive_Lines() {
   Drives drives;
   for (const Wire& wire : kWires) {
-    const Port& port = Ports[wire.Port];
+    const Port& port = ports[wire.Port];
     if (port.Direction & wire.Mask) continue;
-    drives[wire.Name] = port.Latch & wire.Mask ? Drive::kHigh : Drive::kLow;
+    drives[wire.Name] = port.Latch & wire.Mask ? Drive::High : Drive::Low;
   }
-  Contacts.Follow(drives, Wire_Time());
+  contacts.Follow(drives, Wire_Time());
 }
 
 }  // namespace board

@@ -26,26 +26,26 @@ class Programmer_Board : public Wire_End {
   Answer Receive(std::uint8_t byte) override;
 
   // The whole answer to "?", as it stands, in place of the board's own.
-  void Identify_As(std::string_view text) { Identification.assign(text.begin(), text.end()); }
+  void Identify_As(std::string_view text) { identification.assign(text.begin(), text.end()); }
 
-  void Insert(std::unique_ptr<Chip> chip) { Contacts.Insert(std::move(chip)); }
+  void Insert(std::unique_ptr<Chip> chip) { contacts.Insert(std::move(chip)); }
 
   // The probes of whoever looks at the board from outside.
-  Chip_Socket& Socket() { return Contacts; }
-  bool Supply() const { return Contacts.Level(Line::kSupply); }
+  Chip_Socket& Socket() { return contacts; }
+  bool Supply() const { return contacts.Level(Line::Supply); }
 
   // `port` is 'a', 'b' or 'c', here and below. The level that the board drives on its outputs.
-  std::uint8_t Latch(char port) const { return Ports[Index(port)].Latch; }
+  std::uint8_t Latch(char port) const { return ports[Index(port)].Latch; }
   // One bit a pin: 1 = input, 0 = output.
-  std::uint8_t Direction(char port) const { return Ports[Index(port)].Direction; }
+  std::uint8_t Direction(char port) const { return ports[Index(port)].Direction; }
   // The level on every pin, whoever makes it.
   std::uint8_t Pins(char port) const;
 
-  std::uint64_t Commands() const override { return Completed; }
-  std::uint64_t Bytes_In() const { return BytesIn; }
-  std::uint64_t Bytes_Out() const { return BytesOut; }
+  std::uint64_t Commands() const override { return completed; }
+  std::uint64_t Bytes_In() const { return bytes_in; }
+  std::uint64_t Bytes_Out() const { return bytes_out; }
   // Seconds that all bytes so far, in and out, take at 9600 baud 8N1. The chip's clock.
-  double Wire_Time() const { return static_cast<double>(BytesIn + BytesOut) * 10 / 9600; }
+  double Wire_Time() const { return static_cast<double>(bytes_in + bytes_out) * 10 / 9600; }
 
  private:
   using Reply = std::vector<std::uint8_t>;
@@ -70,11 +70,11 @@ class Programmer_Board : public Wire_End {
 
   static std::size_t Index(char port) { return static_cast<std::size_t>(port - 'a'); }
   // `at` counts from the first byte of the command's word.
-  std::uint8_t Operand(std::size_t at) const { return static_cast<std::uint8_t>(Frame.at(at)); }
-  Port& Named_Port() { return Ports[Index(Frame.at(2))]; }
+  std::uint8_t Operand(std::size_t at) const { return static_cast<std::uint8_t>(frame.at(at)); }
+  Port& Named_Port() { return ports[Index(frame.at(2))]; }
   const Command* Match() const;
 
-  Reply Identify() { return Identification; }
+  Reply Identify() { return identification; }
   Reply Write_Latch();
   Reply Set_Direction();
   Reply Read_Pins();
@@ -92,14 +92,14 @@ class Programmer_Board : public Wire_End {
   bool Clock_In_93();
   void Drive_Lines();
 
-  bool HasAccelerators;
-  Reply Identification;
-  std::array<Port, 3> Ports;
-  Chip_Socket Contacts;
-  std::string Frame;  // The bytes of the command that is coming in.
-  std::uint64_t Completed = 0;
-  std::uint64_t BytesIn = 0;
-  std::uint64_t BytesOut = 0;
+  bool has_accelerators;
+  Reply identification;
+  std::array<Port, 3> ports;
+  Chip_Socket contacts;
+  std::string frame;  // The bytes of the command that is coming in.
+  std::uint64_t completed = 0;
+  std::uint64_t bytes_in = 0;
+  std::uint64_t bytes_out = 0;
 };
 
 }  // namespace board

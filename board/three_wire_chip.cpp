@@ -20,149 +20,149 @@
 namespace board {
 
 void Three_Wire_Chip::Sense(const Levels& levels, double now) {
-  const bool powered_before = std::exchange(Powered, levels[Line::kSupply]);
-  const bool cs_before = std::exchange(Cs, levels[Line::kCs]);
-  const bool sk_before = std::exchange(Sk, levels[Line::kSk]);
-  const bool di_before = std::exchange(Di, levels[Line::kDi]);
-  Now = now;
-  if (!Powered) {
+  const bool powered_before = std::exchange(powered, levels[Line::Supply]);
+  const bool cs_before = std::exchange(cs, levels[Line::Cs]);
+  const bool sk_before = std::exchange(sk, levels[Line::Sk]);
+  const bool di_before = std::exchange(di, levels[Line::Di]);
+  clock = now;
+  if (!powered) {
     if (powered_before) On_Supply_Lost();
     return;
   }
   if (!powered_before) return;  // Levels that came with the supply are no edges.
 
-  if (!cs_before && Cs) State = Phase::kStart;
+  if (!cs_before && cs) state = Phase::Start;
   // Data that change with the clock's edge have not been set up for it.
-  if (Cs && !sk_before && Sk) On_Clock(di_before);
-  if (cs_before && !Cs) On_Deselect();
+  if (cs && !sk_before && sk) On_Clock(di_before);
+  if (cs_before && !cs) On_Deselect();
 }
 
 // DO is let go unless the chip is selected and has something to say.
 Drive Three_Wire_Chip::Drives_Line(Line line, double now) const {
-  if (line != Line::kDo || !Powered || !Cs) return Drive::kReleased;
-  if (ShowsStatus) return now < BusyUntil ? Drive::kLow : Drive::kHigh;
-  if (State != Phase::kSend) return Drive::kReleased;
-  return Out ? Drive::kHigh : Drive::kLow;
+  if (line != Line::Do || !powered || !cs) return Drive::Released;
+  if (shows_status) return now < busy_until ? Drive::Low : Drive::High;
+  if (state != Phase::Send) return Drive::Released;
+  return out ? Drive::High : Drive::Low;
 }
 
 void Three_Wire_Chip::On_Clock(bool bit) {
-  switch (State) {
-    case Phase::kDeaf:  // Nothing counts until CS falls.
+  switch (state) {
+    case Phase::Deaf:  // Nothing counts until CS falls.
       break;
 
-    case Phase::kStart:  // Zeros may come before the start bit. A clock in the write cycle spoils the frame.
-      if (Now < BusyUntil) {
-        State = Phase::kDeaf;
+    case Phase::Start:  // Zeros may come before the start bit. A clock in the write cycle spoils the frame.
+      if (clock < busy_until) {
+        state = Phase::Deaf;
       } else if (bit) {
-        ShowsStatus = false;
-        State = Phase::kOpcode;
+        shows_status = false;
+        state = Phase::Opcode;
       }
       break;
 
-    case Phase::kOpcode:
+    case Phase::Opcode:
       if (!Field_Complete(bit, 2)) break;
-      Opcode = std::exchange(Field, 0);
-      State = Phase::kAddress;
+      opcode = std::exchange(field, 0);
+      state = Phase::Address;
       break;
 
-    case Phase::kAddress:
-      if (Field_Complete(bit, Part.AddressBits)) Begin_Instruction();
+    case Phase::Address:
+      if (Field_Complete(bit, part.AddressBits)) Begin_Instruction();
       break;
 
-    case Phase::kData:
-      if (Field_Complete(bit, 8)) State = Phase::kWhole;
+    case Phase::Data:
+      if (Field_Complete(bit, 8)) state = Phase::Whole;
       break;
 
-    case Phase::kWhole:  // One bit too many: this is no frame.
-      State = Phase::kDeaf;
+    case Phase::Whole:  // One bit too many: this is no frame.
+      state = Phase::Deaf;
       break;
 
-    case Phase::kSend:  // Highest bit first, cell after cell for as long as the clock runs.
-      Out = (Cells.Cells()[Address] << Bits & 0x80) != 0;
-      if (++Bits < 8) break;
-      Bits = 0;
-      Address = (Address + 1) % Part.Bytes;
+    case Phase::Send:  // Highest bit first, cell after cell for as long as the clock runs.
+      out = (cells.Cells()[address] << bits & 0x80) != 0;
+      if (++bits < 8) break;
+      bits = 0;
+      address = (address + 1) % part.Bytes;
       break;
   }
 }
 
 // Opcode and address decide what follows: data out, data in, or nothing.
 void Three_Wire_Chip::Begin_Instruction() {
-  Code = Decode();
-  Address = std::exchange(Field, 0) % Part.Bytes;
-  Out = false;  // The 0 before the first cell.
-  State = Code == Instruction::kRead                                  ? Phase::kSend
-          : Code == Instruction::kWrite || Code == Instruction::kWral ? Phase::kData
-                                                                      : Phase::kWhole;
+  code = Decode();
+  address = std::exchange(field, 0) % part.Bytes;
+  out = false;  // The 0 before the first cell.
+  state = code == Instruction::Read                                 ? Phase::Send
+          : code == Instruction::Write || code == Instruction::Wral ? Phase::Data
+                                                                    : Phase::Whole;
 }
 
 void Three_Wire_Chip::On_Deselect() {
-  if (State == Phase::kWhole) Execute();
-  State = Phase::kDeaf;
-  Field = 0;
-  Bits = 0;
+  if (state == Phase::Whole) Execute();
+  state = Phase::Deaf;
+  field = 0;
+  bits = 0;
 }
 
 // A write cycle that is cut short leaves its cells erased, neither old nor new.
 void Three_Wire_Chip::On_Supply_Lost() {
-  if (Now < BusyUntil)
-    for (std::size_t i = 0; i < CycleCount; ++i) Cells.Write(CycleFrom + i, 0xFF);
-  State = Phase::kDeaf;
-  Field = 0;
-  Bits = 0;
-  BusyUntil = 0;
-  ShowsStatus = false;
-  WriteEnabled = false;
+  if (clock < busy_until)
+    for (std::size_t i = 0; i < cycle_count; ++i) cells.Write(cycle_from + i, 0xFF);
+  state = Phase::Deaf;
+  field = 0;
+  bits = 0;
+  busy_until = 0;
+  shows_status = false;
+  write_enabled = false;
 }
 
 bool Three_Wire_Chip::Field_Complete(bool bit, int length) {
-  Field = Field << 1 | (bit ? 1U : 0U);
-  if (++Bits < length) return false;
-  Bits = 0;
+  field = field << 1 | (bit ? 1U : 0U);
+  if (++bits < length) return false;
+  bits = 0;
   return true;
 }
 
 // Opcode 00 has four instructions, told apart by the two highest address bits.
 Three_Wire_Chip::Instruction Three_Wire_Chip::Decode() const {
-  static constexpr Instruction kByOpcode[] = {Instruction::kEwds, Instruction::kWrite, Instruction::kRead,
-                                              Instruction::kErase};
-  static constexpr Instruction kByAddress[] = {Instruction::kEwds, Instruction::kWral, Instruction::kEral,
-                                               Instruction::kEwen};
-  return Opcode == 0 ? kByAddress[Field >> (Part.AddressBits - 2) & 3] : kByOpcode[Opcode];
+  static constexpr Instruction kByOpcode[] = {Instruction::Ewds, Instruction::Write, Instruction::Read,
+                                              Instruction::Erase};
+  static constexpr Instruction kByAddress[] = {Instruction::Ewds, Instruction::Wral, Instruction::Eral,
+                                               Instruction::Ewen};
+  return opcode == 0 ? kByAddress[field >> (part.AddressBits - 2) & 3] : kByOpcode[opcode];
 }
 
 void Three_Wire_Chip::Execute() {
-  switch (Code) {
-    case Instruction::kRead:
+  switch (code) {
+    case Instruction::Read:
       break;
-    case Instruction::kEwen:
-      WriteEnabled = true;
+    case Instruction::Ewen:
+      write_enabled = true;
       break;
-    case Instruction::kEwds:
-      WriteEnabled = false;
+    case Instruction::Ewds:
+      write_enabled = false;
       break;
-    case Instruction::kWrite:
-      Program(Address, 1, static_cast<std::uint8_t>(Field));
+    case Instruction::Write:
+      Program(address, 1, static_cast<std::uint8_t>(field));
       break;
-    case Instruction::kErase:
-      Program(Address, 1, 0xFF);
+    case Instruction::Erase:
+      Program(address, 1, 0xFF);
       break;
-    case Instruction::kWral:
-      Program(0, Part.Bytes, static_cast<std::uint8_t>(Field));
+    case Instruction::Wral:
+      Program(0, part.Bytes, static_cast<std::uint8_t>(field));
       break;
-    case Instruction::kEral:
-      Program(0, Part.Bytes, 0xFF);
+    case Instruction::Eral:
+      Program(0, part.Bytes, 0xFF);
       break;
   }
 }
 
 void Three_Wire_Chip::Program(std::size_t from, std::size_t count, std::uint8_t value) {
-  if (!WriteEnabled) return;
-  for (std::size_t i = 0; i < count; ++i) Cells.Write(from + i, value);
-  CycleFrom = from;
-  CycleCount = count;
-  BusyUntil = Now + Part.WriteCycle;
-  ShowsStatus = true;
+  if (!write_enabled) return;
+  for (std::size_t i = 0; i < count; ++i) cells.Write(from + i, value);
+  cycle_from = from;
+  cycle_count = count;
+  busy_until = clock + part.WriteCycle;
+  shows_status = true;
 }
 
 }  // namespace board

@@ -13,14 +13,14 @@ namespace board {
 class Three_Wire_Chip : public Chip {
  public:
   // Both must outlive the chip.
-  Three_Wire_Chip(const Three_Wire_Part& part, Cell_Store& cells) : Part(part), Cells(cells) {}
+  Three_Wire_Chip(const Three_Wire_Part& model, Cell_Store& store) : part(model), cells(store) {}
 
   void Sense(const Levels& levels, double now) override;
   Drive Drives_Line(Line line, double now) const override;
 
  private:
-  enum class Phase : std::uint8_t { kDeaf, kStart, kOpcode, kAddress, kData, kWhole, kSend };
-  enum class Instruction : std::uint8_t { kRead, kWrite, kErase, kEwen, kEwds, kEral, kWral };
+  enum class Phase : std::uint8_t { Deaf, Start, Opcode, Address, Data, Whole, Send };
+  enum class Instruction : std::uint8_t { Read, Write, Erase, Ewen, Ewds, Eral, Wral };
 
   void On_Clock(bool bit);
   void On_Deselect();
@@ -32,27 +32,27 @@ class Three_Wire_Chip : public Chip {
   void Execute();
   void Program(std::size_t from, std::size_t count, std::uint8_t value);
 
-  const Three_Wire_Part& Part;
-  Cell_Store& Cells;
+  const Three_Wire_Part& part;
+  Cell_Store& cells;
 
-  bool Powered = false;
-  bool Cs = false;
-  bool Sk = false;
-  bool Di = false;
-  double Now = 0;  // Seconds of wire time.
+  bool powered = false;
+  bool cs = false;
+  bool sk = false;
+  bool di = false;
+  double clock = 0;  // Seconds of wire time.
 
-  Phase State = Phase::kDeaf;
-  unsigned Field = 0;  // The opcode, address or data that comes in, highest bit first.
-  int Bits = 0;        // Those of the field, or of the cell that goes out, that have passed.
-  unsigned Opcode = 0;
-  Instruction Code = Instruction::kRead;  // The one in hand.
-  std::size_t Address = 0;
-  bool Out = false;  // The level on DO while a cell goes out.
+  Phase state = Phase::Deaf;
+  unsigned field = 0;  // The opcode, address or data that comes in, highest bit first.
+  int bits = 0;        // Those of the field, or of the cell that goes out, that have passed.
+  unsigned opcode = 0;
+  Instruction code = Instruction::Read;  // The one in hand.
+  std::size_t address = 0;
+  bool out = false;  // The level on DO while a cell goes out.
 
-  bool WriteEnabled = false;  // Lost with the supply.
-  bool ShowsStatus = false;   // DO tells busy or ready, from a write on to the next start bit.
-  double BusyUntil = 0;       // End of the write cycle.
-  std::size_t CycleFrom = 0, CycleCount = 0;  // The cells that it writes.
+  bool write_enabled = false;  // Lost with the supply.
+  bool shows_status = false;   // DO tells busy or ready, from a write on to the next start bit.
+  double busy_until = 0;       // End of the write cycle.
+  std::size_t cycle_from = 0, cycle_count = 0;  // The cells that it writes.
 };
 
 }  // namespace board

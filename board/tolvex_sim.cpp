@@ -69,36 +69,36 @@ void Describe(CLI::App& app, Options& options) {
 // The socket, and the cells of the chip in it.
 class Chip_Seat {
  public:
-  explicit Chip_Seat(board::Programmer_Board& programmer) : Programmer(programmer) {}
+  explicit Chip_Seat(board::Programmer_Board& board) : programmer(board) {}
 
   // Swaps the chip; an empty image stands for erased cells that nothing keeps. When it throws, the chip that
   // was in the socket is still there.
   void Seat(const std::string& chip, const std::string& image) {
     if (chip == kNoChip) {
       if (!image.empty()) throw std::invalid_argument("an empty socket has no image");
-      Programmer.Insert(nullptr);
-      Cells.reset();
-      Content = "no chip";
+      programmer.Insert(nullptr);
+      cells.reset();
+      content = "no chip";
       return;
     }
     const std::size_t size = board::Chip_Size(chip);
-    std::unique_ptr<board::Cell_Store> cells;
+    std::unique_ptr<board::Cell_Store> store;
     if (image.empty())
-      cells = std::make_unique<board::Cell_Store>(size);
+      store = std::make_unique<board::Cell_Store>(size);
     else
-      cells = std::make_unique<board::Image_Store>(image, size);
-    Programmer.Insert(board::Make_Chip(chip, *cells));
-    Cells = std::move(cells);
-    Content = chip + " (" + std::to_string(size) + " bytes, " +
+      store = std::make_unique<board::Image_Store>(image, size);
+    programmer.Insert(board::Make_Chip(chip, *store));
+    cells = std::move(store);
+    content = chip + " (" + std::to_string(size) + " bytes, " +
               (image.empty() ? "erased, kept nowhere" : "kept in " + image) + ")";
   }
 
-  const std::string& Text() const { return Content; }
+  const std::string& Text() const { return content; }
 
  private:
-  board::Programmer_Board& Programmer;
-  std::unique_ptr<board::Cell_Store> Cells;
-  std::string Content;
+  board::Programmer_Board& programmer;
+  std::unique_ptr<board::Cell_Store> cells;
+  std::string content;
 };
 
 // Without blanks around it, and without the quotes that a shell would want.
@@ -145,7 +145,7 @@ void Run(const Options& options) {
     std::cout << "tolvex-sim: " << seat.Text() << " on COM" << options.Com << " = " << terminal.Device()
               << ", firmware " << options.Firmware << std::endl;
     terminal.Serve(programmer,
-                   {.Wire = options.Paced ? board::Pace::kWire : board::Pace::kAtOnce,
+                   {.Wire = options.Paced ? board::Pace::Wire : board::Pace::At_Once,
                     .Latency = std::chrono::milliseconds(options.Latency)},
                    typed, [&](const std::string& line) { Swap(seat, line); });
   }

@@ -13,15 +13,15 @@ class Typed_Lines {
   Typed_Lines();
 
   // To be polled for reading; -1 when no line will come any more.
-  int Number() const { return File; }
+  int Number() const { return file; }
 
   // What has come, line by line, without their ends; reads once, which waits unless the poll said so. What
   // exceeds 4096 characters of a line is dropped. The last line needs no end.
   std::vector<std::string> Take();
 
  private:
-  int File;
-  std::string Begun;
+  int file;
+  std::string begun;
 };
 
 }  // namespace board

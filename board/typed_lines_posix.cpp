@@ -17,25 +17,25 @@ constexpr std::size_t kLongest = 4096;
 
 }  // namespace
 
-Typed_Lines::Typed_Lines() : File(fcntl(STDIN_FILENO, F_GETFD) < 0 ? -1 : STDIN_FILENO) {
+Typed_Lines::Typed_Lines() : file(fcntl(STDIN_FILENO, F_GETFD) < 0 ? -1 : STDIN_FILENO) {
   signal(SIGTTIN, SIG_IGN);
 }
 
 std::vector<std::string> Typed_Lines::Take() {
   std::array<char, 512> bytes;
-  const ssize_t got = read(File, bytes.data(), bytes.size());
+  const ssize_t got = read(file, bytes.data(), bytes.size());
   if (got < 0 && (errno == EAGAIN || errno == EINTR)) return {};
   std::vector<std::string> lines;
   if (got <= 0) {
-    File = -1;
-    if (!Begun.empty()) lines.push_back(std::exchange(Begun, {}));
+    file = -1;
+    if (!begun.empty()) lines.push_back(std::exchange(begun, {}));
     return lines;
   }
   for (std::size_t i = 0; i < static_cast<std::size_t>(got); ++i) {
     if (bytes[i] == '\n')
-      lines.push_back(std::exchange(Begun, {}));
-    else if (Begun.size() < kLongest)
-      Begun += bytes[i];
+      lines.push_back(std::exchange(begun, {}));
+    else if (begun.size() < kLongest)
+      begun += bytes[i];
   }
   return lines;
 }

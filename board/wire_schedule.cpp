@@ -13,20 +13,20 @@ constexpr std::chrono::milliseconds kAwakeFor{5};
 }  // namespace
 
 Wire_Schedule::Wire_Schedule(const Port_Timing& timing)
-    : ByteTime(timing.Wire == Pace::kWire ? kWireByteTime : kNone), Latency(timing.Latency) {}
+    : byte_time(timing.Wire == Pace::Wire ? kWireByteTime : kNone), latency(timing.Latency) {}
 
 Wire_Schedule::Clock::time_point Wire_Schedule::Arrival(Clock::time_point sent) {
-  return InFree = std::max(InFree, sent) + ByteTime;
+  return in_free = std::max(in_free, sent) + byte_time;
 }
 
 Wire_Schedule::Clock::time_point Wire_Schedule::Departure(Clock::time_point said) {
-  OutFree = std::max(OutFree, said) + ByteTime;
-  if (Latency == kNone) return OutFree;
-  return OutFree + Latency - OutFree.time_since_epoch() % Latency;
+  out_free = std::max(out_free, said) + byte_time;
+  if (latency == kNone) return out_free;
+  return out_free + latency - out_free.time_since_epoch() % latency;
 }
 
 bool Wire_Schedule::Awake(Clock::time_point now) const {
-  return ByteTime > kNone && now < std::max(InFree, OutFree) + kAwakeFor;
+  return byte_time > kNone && now < std::max(in_free, out_free) + kAwakeFor;
 }
 
 }  // namespace board

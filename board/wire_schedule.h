@@ -7,12 +7,12 @@
 namespace board {
 
 enum class Pace : std::uint8_t {
-  kAtOnce,
-  kWire,  // No reply earlier than 9600 baud 8N1 would carry it.
+  At_Once,
+  Wire,  // No reply earlier than 9600 baud 8N1 would carry it.
 };
 
 struct Port_Timing {
-  Pace Wire = Pace::kAtOnce;
+  Pace Wire = Pace::At_Once;
   // Replies reach the PC only at multiples of this, as behind a USB adapter: it hands over what it has when
   // its latency timer runs out, which is 16 ms as such adapters come, and 1 ms at least.
   std::chrono::milliseconds Latency{0};
@@ -35,9 +35,9 @@ class Wire_Schedule {
   bool Awake(Clock::time_point now) const;
 
  private:
-  std::chrono::nanoseconds ByteTime;
-  std::chrono::nanoseconds Latency;
-  Clock::time_point InFree, OutFree;
+  std::chrono::nanoseconds byte_time;
+  std::chrono::nanoseconds latency;
+  Clock::time_point in_free, out_free;
 };
 
 }  // namespace board

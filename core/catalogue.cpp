@@ -29,9 +29,9 @@ void List_Devices() {
   UpdatingControls = -1;
   frmMain.Combo_device.Clear();
   for (const Device_Row& row : DeviceTable) {
-    const std::size_t width = Characters(row[kName]);
+    const std::size_t width = Characters(row[Column_Name]);
     const std::string gap(width < kNameWidth ? kNameWidth - width : 0, ' ');
-    frmMain.Combo_device.AddItem(row[kName] + gap + row[kNameTail]);
+    frmMain.Combo_device.AddItem(row[Column_Name] + gap + row[Column_Name_Tail]);
   }
   const long stored = Get_Number_Setting(key::kDut, 0);
   if (!frmMain.Combo_device.Set_ListIndex(static_cast<int>(stored))) frmMain.Combo_device.Set_ListIndex(0);

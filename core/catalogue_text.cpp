@@ -15,19 +15,19 @@ struct Number_Column {
   Device_Column At;
   const char* Name;
 };
-constexpr std::array<Number_Column, 5> kNumberColumns{{{kFamily, "ファミリ"},
-                                                       {kMemSize, "メモリサイズ"},
-                                                       {kPageSize, "ページサイズ"},
-                                                       {kAddressMode, "アドレスモード"},
-                                                       {kAddressBits, "アドレスビット数"}}};
+constexpr std::array<Number_Column, 5> kNumberColumns{{{Column_Family, "ファミリ"},
+                                                       {Column_Mem_Size, "メモリサイズ"},
+                                                       {Column_Page_Size, "ページサイズ"},
+                                                       {Column_Address_Mode, "アドレスモード"},
+                                                       {Column_Address_Bits, "アドレスビット数"}}};
 
 // Where "-" may stand.
 bool Unused(const Device_Row& row, Device_Column column) {
-  switch (Number_Cell(row, kFamily)) {
+  switch (Number_Cell(row, Column_Family)) {
     case 2:
-      return column == kAddressBits;
+      return column == Column_Address_Bits;
     case 3:
-      return column == kPageSize || column == kAddressMode;
+      return column == Column_Page_Size || column == Column_Address_Mode;
     default:
       return false;
   }
@@ -38,7 +38,8 @@ std::string Fault(const Device_Row& row, Device_Column column) {
   const std::string& cell = row[column];
   if (cell.empty() || (cell == "-" && Unused(row, column))) return "";
   if (!Whole_Number(cell)) return "数値ではありません。0とします。";
-  if (column == kPageSize && Number_Cell(row, kFamily) == 2 && !C24_Page_Usable(Number_Cell(row, column)))
+  if (column == Column_Page_Size && Number_Cell(row, Column_Family) == 2 &&
+      !C24_Page_Usable(Number_Cell(row, column)))
     return "2の累乗ではありません。Block Writeはできません。";
   return "";
 }
@@ -51,7 +52,7 @@ std::string Line_Text(int line) { return std::to_string(line) + "行目: "; }
 void Add_Row(Catalogue& catalogue, std::string_view record, int line) {
   const auto cells = Split_Line(record);
   if (catalogue.Rows.size() == kTableRows) {
-    catalogue.Problems.push_back(Line_Text(line) + Clipped(cells[kName]) + " は" +
+    catalogue.Problems.push_back(Line_Text(line) + Clipped(cells[Column_Name]) + " は" +
                                  std::to_string(kTableRows) + "行を超えたため読み込みませんでした。");
     return;
   }
@@ -59,8 +60,9 @@ void Add_Row(Catalogue& catalogue, std::string_view record, int line) {
   std::copy_n(cells.begin(), kTableColumns, row.begin());
   for (const auto& [column, name] : kNumberColumns)
     if (const std::string fault = Fault(row, column); !fault.empty())
-      catalogue.Problems.push_back(Line_Text(line) + Clipped(row[kName]) + " の列" + std::to_string(column) +
-                                   " (" + name + ") の \"" + Clipped(row[column]) + "\" は" + fault);
+      catalogue.Problems.push_back(Line_Text(line) + Clipped(row[Column_Name]) + " の列" +
+                                   std::to_string(column) + " (" + name + ") の \"" + Clipped(row[column]) +
+                                   "\" は" + fault);
   catalogue.Rows.push_back(std::move(row));
 }
 

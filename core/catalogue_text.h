@@ -21,19 +21,19 @@ namespace wrenbit {
 
 // The columns of a device row. Behind the last one, up to kTableColumns, they are kept and not used.
 enum Device_Column {
-  kName,
-  kNameTail,     // Shown behind the name.
-  kFamily,       // 2 = 24Cxx, 3 = 93Cxx.
-  kMemSize,      // The chip holds 2^n bytes.
-  kPageSize,     // Bytes.
-  kAddressMode,  // 24Cxx: 1 = one address byte, else two.
-  kAddressBits,  // 93Cxx.
-  kStatusText,   // Panel 4.
-  kSupply,
-  kEndurance,
-  kDensity,
-  kWriteSpeed,
-  kClockSpeed,
+  Column_Name,
+  Column_Name_Tail,     // Shown behind the name.
+  Column_Family,        // 2 = 24Cxx, 3 = 93Cxx.
+  Column_Mem_Size,      // The chip holds 2^n bytes.
+  Column_Page_Size,     // Bytes.
+  Column_Address_Mode,  // 24Cxx: 1 = one address byte, else two.
+  Column_Address_Bits,  // 93Cxx.
+  Column_Status_Text,   // Panel 4.
+  Column_Supply,
+  Column_Endurance,
+  Column_Density,
+  Column_Write_Speed,
+  Column_Clock_Speed,
 };
 
 inline constexpr int kLineCells = 65;

@@ -32,8 +32,9 @@ std::string Size_Text() {
 
 std::string Spec_Text(const Device_Row& row) {
   if (DeviceFamily != 2 && DeviceFamily != 3) return "";
-  return "VDD:" + row[kSupply] + " Endurance:" + row[kEndurance] + " Density:" + row[kDensity] +
-         " WriteSpeed:" + row[kWriteSpeed] + " ClockSpeed:" + row[kClockSpeed] + " ";
+  return "VDD:" + row[Column_Supply] + " Endurance:" + row[Column_Endurance] +
+         " Density:" + row[Column_Density] + " WriteSpeed:" + row[Column_Write_Speed] +
+         " ClockSpeed:" + row[Column_Clock_Speed] + " ";
 }
 
 // A block that is smaller than the chip leaves the rest unread or unwritten, which no status text says.
@@ -72,12 +73,12 @@ void Rebuild_Block_Sizes() {
 void Combo_device_Click() {
   const int index = frmMain.Combo_device.ListIndex();
   const Device_Row& row = DeviceTable.at(static_cast<std::size_t>(index));
-  DeviceFamily = Number_Cell(row, kFamily);
-  MemSize = Number_Cell(row, kMemSize);
-  PageSize = Number_Cell(row, kPageSize);
-  AddressMode = Number_Cell(row, kAddressMode);
-  AddressBits = Number_Cell(row, kAddressBits);
-  DeviceStatusText = row[kStatusText];
+  DeviceFamily = Number_Cell(row, Column_Family);
+  MemSize = Number_Cell(row, Column_Mem_Size);
+  PageSize = Number_Cell(row, Column_Page_Size);
+  AddressMode = Number_Cell(row, Column_Address_Mode);
+  AddressBits = Number_Cell(row, Column_Address_Bits);
+  DeviceStatusText = row[Column_Status_Text];
   frmMain.sbStatusBar.Set_Panel(4, DeviceStatusText);
   frmMain.Lbl_PageSize.Set_Caption(Size_Text());
   frmMain.Lbl_Spec.Set_Caption(Spec_Text(row));

@@ -49,13 +49,13 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   DeviceTable = std::move(catalogue.Rows);
   frmMain.Combo_device.Clear();
   for (const Device_Row& row : DeviceTable) {
-    Must_Hold(!row[kName].empty(), "a device has a name");
+    Must_Hold(!row[Column_Name].empty(), "a device has a name");
     for (const std::string& cell : row)
       Must_Hold(cell.find_first_of(" \t") == cell.npos, "a cell is one word");
-    frmMain.Combo_device.AddItem(row[kName]);
+    frmMain.Combo_device.AddItem(row[Column_Name]);
   }
   for (std::size_t row = 0; row < std::min(kRowsTried, DeviceTable.size()); ++row) {
-    const std::int32_t power = Number_Cell(DeviceTable[row], kMemSize);
+    const std::int32_t power = Number_Cell(DeviceTable[row], Column_Mem_Size);
     if (power <= kSmallSize || power > kGreatestSize) Select_And_Try(static_cast<int>(row));
   }
   return 0;

@@ -25,7 +25,7 @@ constexpr std::size_t kBankBytes = 0x10000;  // What an address field reaches.
 constexpr std::size_t kLongestLine = 11 + 2 * kRecordBytes + 2;
 constexpr const char* kLineEnd = "\r\n";
 
-enum Record_Type { kData = 0x00, kExtendedSegment = 0x02, kExtendedLinear = 0x04 };
+enum Record_Type { Data_Record = 0x00, Extended_Segment = 0x02, Extended_Linear = 0x04 };
 
 bool Ascii(char c) { return (c & 0x80) == 0; }
 
@@ -96,9 +96,9 @@ void Intel_Hex_Load(std::string_view text) {
     const std::uint32_t length = Number(line, 1, 2);
     const std::uint32_t address = Number(line, 3, 4);
     const std::uint32_t type = Number(line, 7, 2);
-    if (extended && type == kExtendedSegment) base = Number(line, 9, 4) << 4;
-    if (extended && type == kExtendedLinear) base = Number(line, 9, 4) << 16;
-    if (type != kData) continue;
+    if (extended && type == Extended_Segment) base = Number(line, 9, 4) << 4;
+    if (extended && type == Extended_Linear) base = Number(line, 9, 4) << 16;
+    if (type != Data_Record) continue;
     for (std::uint32_t k = 0; k < length; ++k) {
       const std::size_t index = base + address + k;
       if (index >= ImageBuffer.size()) return;

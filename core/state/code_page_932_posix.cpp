@@ -8,10 +8,10 @@ namespace {
 
 // A system may come without the table; every conversion then fails.
 struct Converter {
-  const iconv_t handle = iconv_open("UTF-8", "CP932");
-  bool Usable() const { return handle != reinterpret_cast<iconv_t>(-1); }
+  const iconv_t Handle = iconv_open("UTF-8", "CP932");
+  bool Usable() const { return Handle != reinterpret_cast<iconv_t>(-1); }
   ~Converter() {
-    if (Usable()) iconv_close(handle);
+    if (Usable()) iconv_close(Handle);
   }
 };
 
@@ -26,7 +26,7 @@ std::string Cp932_Character(std::uint8_t lead, std::uint8_t trail) {
   char* to = utf8;
   std::size_t from_left = sizeof pair;
   std::size_t to_left = sizeof utf8;
-  if (iconv(converter.handle, &from, &from_left, &to, &to_left) == static_cast<std::size_t>(-1)) return {};
+  if (iconv(converter.Handle, &from, &from_left, &to, &to_left) == static_cast<std::size_t>(-1)) return {};
   return {utf8, to};
 }
 

@@ -40,11 +40,11 @@ void Tidy(QFileDialog& box) {
     places->setMinimumWidth(places->sizeHintForColumn(0) + kAir);
   auto* files = box.findChild<QTreeView*>("treeView");
   if (!files) return;
-  enum { kName, kSize, kType, kDate };
-  files->setColumnHidden(kType, true);
+  enum { Name, Size, Type, Date };
+  files->setColumnHidden(Type, true);
   files->header()->setStretchLastSection(false);
   files->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
-  files->header()->setSectionResizeMode(kName, QHeaderView::Stretch);
+  files->header()->setSectionResizeMode(Name, QHeaderView::Stretch);
 }
 
 // A name without an extension is the file's whole name where there is such a file; else the default one goes

@@ -17,17 +17,17 @@ namespace wrenbit {
 namespace {
 
 Qt::WindowFlags Flags(Form_Kind kind) {
-  constexpr Qt::WindowFlags bar = Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
-                                  Qt::WindowCloseButtonHint | Qt::MSWindowsFixedSizeDialogHint;
+  constexpr Qt::WindowFlags kBar = Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
+                                   Qt::WindowCloseButtonHint | Qt::MSWindowsFixedSizeDialogHint;
   switch (kind) {
     case Form_Kind::Dialog:
-      return Qt::Dialog | bar;
+      return Qt::Dialog | kBar;
     case Form_Kind::Splash:
       return Qt::SplashScreen | Qt::FramelessWindowHint;
     case Form_Kind::Main:
       break;
   }
-  return Qt::Window | bar | Qt::WindowMinimizeButtonHint;
+  return Qt::Window | kBar | Qt::WindowMinimizeButtonHint;
 }
 
 constexpr QColor kSplash(0xEF, 0xEF, 0xEF);

@@ -21,16 +21,16 @@ constexpr double kCorner = 2;
 
 constexpr QColor kInk(0x26, 0x2f, 0x3b);
 constexpr QColor kPlastic(0x46, 0x53, 0x63);
-constexpr QColor kIdle_Cell(0x74, 0x82, 0x93);
+constexpr QColor kIdleCell(0x74, 0x82, 0x93);
 constexpr QColor kMetal(0xb4, 0xbe, 0xca);
 constexpr QColor kPaper(0xff, 0xfd, 0xf5);
-constexpr QColor kFolder_Light(0xff, 0xda, 0x85);
+constexpr QColor kFolderLight(0xff, 0xda, 0x85);
 constexpr QColor kFolder(0xf4, 0xb9, 0x42);
-constexpr QColor kFolder_Shade(0xd4, 0x92, 0x24);
+constexpr QColor kFolderShade(0xd4, 0x92, 0x24);
 constexpr QColor kRead(0x1c, 0x78, 0xcf);
 constexpr QColor kWrite(0xe2, 0x5a, 0x12);
 constexpr QColor kFeather(0x9c, 0x62, 0x35);
-constexpr QColor kFeather_Shade(0x6b, 0x3e, 0x1e);
+constexpr QColor kFeatherShade(0x6b, 0x3e, 0x1e);
 constexpr QColor kBreast(0xf3, 0xdd, 0xb8);
 
 enum class Way { Out, In };
@@ -61,12 +61,12 @@ void Draw_Thing(QPainter& painter, const QPainterPath& path, const QColor& fill)
 }
 
 void Draw_Chip(QPainter& painter, const QRectF& body, int legs) {
-  constexpr double kLeg = 2, kPitch = 6, kLeg_Length = 4;
+  constexpr double kLeg = 2, kPitch = 6, kLegLength = 4;
   const double first = body.center().x() - ((legs - 1) * kPitch + kLeg) / 2;
   for (int leg = 0; leg < legs; ++leg)
-    painter.fillPath(Box(first + leg * kPitch, body.bottom(), kLeg, kLeg_Length), kPlastic);
+    painter.fillPath(Box(first + leg * kPitch, body.bottom(), kLeg, kLegLength), kPlastic);
   painter.fillPath(Box(body.left(), body.top(), body.width(), body.height(), kCorner), kInk);
-  painter.fillPath(Box(body.left() + kCorner, body.top(), body.width() - 2 * kCorner, 1), kIdle_Cell);
+  painter.fillPath(Box(body.left() + kCorner, body.top(), body.width() - 2 * kCorner, 1), kIdleCell);
 }
 
 void Draw_Cell(QPainter& painter, double left, double top, const QColor& fill, double side = 4) {
@@ -90,15 +90,15 @@ void Draw_Transfer(QPainter& painter, Way way, bool block) {
   Draw_Chip(painter, {4, 14, 24, 14}, 4);
   for (const double top : {16, 22})
     for (const double left : {8, 14, 20})
-      Draw_Cell(painter, left, top, block || (left == 14 && top == 16) ? kPaper : kIdle_Cell);
+      Draw_Cell(painter, left, top, block || (left == 14 && top == 16) ? kPaper : kIdleCell);
   Draw_Arrow(painter, way, block ? 8 : 4);
 }
 
 void Draw_Open(QPainter& painter) {
-  Draw_Thing(painter, Outline({{3, 29}, {3, 9}, {5, 7}, {11, 7}, {13, 9}, {27, 9}, {27, 29}}), kFolder_Shade);
+  Draw_Thing(painter, Outline({{3, 29}, {3, 9}, {5, 7}, {11, 7}, {13, 9}, {27, 9}, {27, 29}}), kFolderShade);
   Draw_Thing(painter, Outline({{7, 25}, {7, 3}, {17, 3}, {21, 7}, {21, 25}}), kPaper);
   Draw_Thing(painter, Outline({{3, 29}, {7, 15}, {31, 15}, {27, 29}}), kFolder);
-  painter.fillPath(Outline({{7.7, 16}, {29.7, 16}, {29.4, 17}, {7.4, 17}}), kFolder_Light);
+  painter.fillPath(Outline({{7.7, 16}, {29.7, 16}, {29.4, 17}, {7.4, 17}}), kFolderLight);
 }
 
 void Draw_Save(QPainter& painter) {
@@ -106,8 +106,8 @@ void Draw_Save(QPainter& painter) {
   painter.fillPath(Box(10, 4, 12, 8), kMetal);
   painter.fillPath(Box(16, 6, 4, 4), kInk);
   painter.fillPath(Box(8, 16, 16, 12), kPaper);
-  painter.fillPath(Box(10, 20, 12, 2), kIdle_Cell);
-  painter.fillPath(Box(10, 24, 12, 2), kIdle_Cell);
+  painter.fillPath(Box(10, 20, 12, 2), kIdleCell);
+  painter.fillPath(Box(10, 24, 12, 2), kIdleCell);
 }
 
 void Draw_Port(QPainter& painter) {
@@ -145,9 +145,9 @@ void Draw_Wren(QPainter& painter, bool fine) {
   painter.setClipPath(bird);
   painter.fillPath(bird, kFeather);
   painter.fillPath(Disc({23, 15.5}, 7, 7), kBreast);
-  painter.fillPath(wing, kFeather_Shade);
+  painter.fillPath(wing, kFeatherShade);
   if (fine) {
-    painter.setPen(QPen(kFeather_Shade, 0.8));
+    painter.setPen(QPen(kFeatherShade, 0.8));
     for (const double y : {4.5, 6.5, 8.5}) painter.drawLine(QPointF(2, y + 1.5), QPointF(10, y - 1.5));
     painter.setPen(QPen(kFeather, 0.7, Qt::SolidLine, Qt::RoundCap));
     for (const double x : {10.5, 12.7, 14.9}) painter.drawLine(QPointF(x, 13), QPointF(x + 0.8, 15));
@@ -168,7 +168,7 @@ void Draw_Program(QPainter& painter, bool fine) {
 // The wren sings what it reads.
 void Draw_Logo(QPainter& painter, bool fine) {
   Draw_Chip(painter, {4, 20, 56, 8}, 9);
-  for (const double left : {9, 21, 27, 45}) Draw_Cell(painter, left, 22, kIdle_Cell);
+  for (const double left : {9, 21, 27, 45}) Draw_Cell(painter, left, 22, kIdleCell);
   for (const double left : {15, 33, 39, 51}) Draw_Cell(painter, left, 22, kPaper);
   Draw_Cell(painter, 41, 6, kRead, 2);
   Draw_Cell(painter, 45, 9, kFolder, 2.5);

@@ -13,14 +13,14 @@ using Bytes = std::vector<std::uint8_t>;
 
 class Test_Pc {
  public:
-  explicit Test_Pc(board::Wire_End& end) : End(end) {}
+  explicit Test_Pc(board::Wire_End& board) : end(board) {}
 
   // All that the board says to a command.
   Bytes Say(std::string_view word, const Bytes& operands = {}) {
     Bytes said, bytes(word.begin(), word.end());
     bytes.insert(bytes.end(), operands.begin(), operands.end());
     for (const std::uint8_t byte : bytes) {
-      const auto answer = End.Receive(byte);
+      const auto answer = end.Receive(byte);
       said.insert(said.end(), answer.Bytes.begin(), answer.Bytes.end());
     }
     return said;
@@ -54,5 +54,5 @@ class Test_Pc {
   }
 
  private:
-  board::Wire_End& End;
+  board::Wire_End& end;
 };

@@ -43,9 +43,9 @@ class Simulator {
  public:
   explicit Simulator(const std::string& config) {
     auto [keys, typing] = Pipe();
-    auto [output, into] = Pipe();
-    Child = fork();
-    if (Child == 0) {
+    auto [told, into] = Pipe();
+    child = fork();
+    if (child == 0) {
       dup2(*keys, STDIN_FILENO);
       dup2(*into, STDOUT_FILENO);
       dup2(*into, STDERR_FILENO);
@@ -53,84 +53,85 @@ class Simulator {
       execl(TOLVEX_SIM, "tolvex-sim", "--com", "3", "--chip", "24C02", nullptr);
       _exit(127);
     }
-    Output = std::move(output);
-    Keyboard = std::move(typing);
+    output = std::move(told);
+    keyboard = std::move(typing);
   }
   ~Simulator() {
-    if (Child > 0) End(SIGKILL);
+    if (child > 0) End(SIGKILL);
   }
   Simulator(const Simulator&) = delete;
   Simulator& operator=(const Simulator&) = delete;
 
-  std::string Says() { return Line(*Output); }
+  std::string Says() { return Line(*output); }
   void Type(const std::string& keys) {
-    EXPECT_EQ(write(*Keyboard, keys.data(), keys.size()), static_cast<ssize_t>(keys.size()));
+    EXPECT_EQ(write(*keyboard, keys.data(), keys.size()), static_cast<ssize_t>(keys.size()));
   }
-  void End_Typing() { Keyboard = board::Descriptor(); }
+  void End_Typing() { keyboard = board::Descriptor(); }
 
   // The exit code, or minus the signal that it died of. A program that doesn't end is killed.
   int Wait() {
     for (std::string line = Says(); !line.empty(); line = Says()) Farewell += line;
-    if (!Ready(*Output, POLLIN)) kill(Child, SIGKILL);
+    if (!Ready(*output, POLLIN)) kill(child, SIGKILL);
     int status = 0;
-    waitpid(std::exchange(Child, 0), &status, 0);
+    waitpid(std::exchange(child, 0), &status, 0);
     return WIFEXITED(status) ? WEXITSTATUS(status) : -WTERMSIG(status);
   }
   int End(int with) {
-    kill(Child, with);
+    kill(child, with);
     return Wait();
   }
 
   std::string Farewell;  // What it said until its end.
 
  private:
-  pid_t Child = 0;
-  board::Descriptor Output, Keyboard;
+  pid_t child = 0;
+  board::Descriptor output, keyboard;
 };
 
-struct Tolvex_Sim : testing::Test {
-  Tolvex_Sim() { fs::create_directories(Ports); }
+class Tolvex_Sim : public testing::Test {
+ protected:
+  Tolvex_Sim() { fs::create_directories(ports); }
 
   void Expect_Answer() const {
-    const board::Descriptor port(open(Link.c_str(), O_RDWR | O_NOCTTY));
+    const board::Descriptor port(open(link.c_str(), O_RDWR | O_NOCTTY));
     EXPECT_EQ(write(*port, "?", 1), 1);
     EXPECT_EQ(Line(*port), "TOLVEX Ver.5.00\r\n");
   }
   void Expect_Refusal(const std::string& why) const {
-    Simulator refused(Config.Path());
+    Simulator refused(config.Path());
     EXPECT_EQ(refused.Wait(), 1);
     EXPECT_NE(refused.Farewell.find(why), std::string::npos) << refused.Farewell;
   }
 
-  const Temporary_Folder Config;
-  const fs::path Ports = Config / "wrenbit/ports";
-  const fs::path Link = Ports / "COM3";
-  const fs::path Lock = Ports / "COM3.lock";
+  const Temporary_Folder config;
+  const fs::path ports = config / "wrenbit/ports";
+  const fs::path link = ports / "COM3";
+  const fs::path lock = ports / "COM3.lock";
 };
 
 TEST_F(Tolvex_Sim, Answers_Each_Time_The_Port_Is_Opened_And_Cleans_Up_At_A_Signal) {
   for (const int with : {SIGINT, SIGTERM, SIGHUP}) {
-    Simulator simulator(Config.Path());
+    Simulator simulator(config.Path());
     const std::string ready = simulator.Says();
     EXPECT_EQ(ready, "tolvex-sim: 24C02 (256 bytes, erased, kept nowhere) on COM3 = " +
-                         fs::read_symlink(Link).string() + ", firmware 5.00\n");
+                         fs::read_symlink(link).string() + ", firmware 5.00\n");
     for (int i = 0; i < 3; ++i) Expect_Answer();
     EXPECT_EQ(simulator.End(with), 0);
     EXPECT_EQ(simulator.Farewell, "tolvex-sim: 3 commands, 3 bytes out to the board, 51 bytes back\n");
-    EXPECT_TRUE(fs::is_empty(Ports));
+    EXPECT_TRUE(fs::is_empty(ports));
   }
 }
 
 TEST_F(Tolvex_Sim, Takes_Over_The_Link_Of_A_Killed_Board_And_Not_That_Of_A_Living_One) {
   {
-    Simulator killed(Config.Path());
+    Simulator killed(config.Path());
     killed.Says();
     EXPECT_EQ(killed.End(SIGKILL), -SIGKILL);
   }
-  ASSERT_TRUE(fs::is_symlink(Link) && fs::exists(Lock));
-  fs::remove(Link);
-  fs::create_symlink("/dev/pts/nobody", Link);
-  Simulator next(Config.Path());
+  ASSERT_TRUE(fs::is_symlink(link) && fs::exists(lock));
+  fs::remove(link);
+  fs::create_symlink("/dev/pts/nobody", link);
+  Simulator next(config.Path());
   ASSERT_NE(next.Says().find("on COM3"), std::string::npos);
   Expect_Refusal("another board is on COM3");
   Expect_Answer();
@@ -140,22 +141,22 @@ TEST_F(Tolvex_Sim, Leaves_A_Link_Alone_That_No_Board_Made) {
   const std::pair<const char*, bool> cases[] = {
       {"/dev/null", false}, {"/dev/pts/7", false}, {"/dev/ttyUSB0", true}};
   for (const auto& [target, locked] : cases) {
-    fs::create_symlink(target, Link);
-    if (locked) Put_Content(Lock, "");
+    fs::create_symlink(target, link);
+    if (locked) Put_Content(lock, "");
     Expect_Refusal("left alone");
-    EXPECT_EQ(fs::read_symlink(Link), target);
-    EXPECT_EQ(fs::exists(Lock), locked);
-    fs::remove(Link);
+    EXPECT_EQ(fs::read_symlink(link), target);
+    EXPECT_EQ(fs::exists(lock), locked);
+    fs::remove(link);
   }
-  Put_Content(Link, "a file");
+  Put_Content(link, "a file");
   Expect_Refusal("left alone");
-  EXPECT_EQ(Content(Link), "a file");
+  EXPECT_EQ(Content(link), "a file");
 }
 
 TEST_F(Tolvex_Sim, Outlives_A_Port_That_Sends_And_Never_Reads) {
-  Simulator simulator(Config.Path());
+  Simulator simulator(config.Path());
   simulator.Says();
-  const board::Descriptor port(open(Link.c_str(), O_RDWR | O_NOCTTY | O_NONBLOCK));
+  const board::Descriptor port(open(link.c_str(), O_RDWR | O_NOCTTY | O_NONBLOCK));
   const std::string queries(1000, '?');  // 17 bytes back for each, far more than a terminal holds.
   for (std::size_t sent = 0; sent < 20000;) {
     ASSERT_TRUE(Ready(*port, POLLOUT));
@@ -166,10 +167,10 @@ TEST_F(Tolvex_Sim, Outlives_A_Port_That_Sends_And_Never_Reads) {
 }
 
 TEST_F(Tolvex_Sim, Swaps_The_Chip_At_A_Typed_Line_And_Keeps_It_When_The_Line_Is_Wrong) {
-  const std::string image = Config / "a chip.bin";
-  const std::string small = Config / "short.bin";
+  const std::string image = config / "a chip.bin";
+  const std::string small = config / "short.bin";
   Put_Content(small, "short");
-  Simulator simulator(Config.Path());
+  Simulator simulator(config.Path());
   simulator.Says();
   const std::string chip = "AT93C46 (128 bytes, kept in " + image + ") in the socket";
   const struct {

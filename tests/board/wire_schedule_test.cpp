@@ -11,7 +11,7 @@ using Time = Wire_Schedule::Clock::time_point;
 
 TEST(Wire_Schedule, CarriesBytesOneAfterTheOtherInEachDirectionAndIsAwakeMeanwhile) {
   constexpr auto kByteTime = std::chrono::nanoseconds(1'041'666);
-  Wire_Schedule wire({.Wire = Pace::kWire});
+  Wire_Schedule wire({.Wire = Pace::Wire});
   const Time now(1s);
   EXPECT_FALSE(wire.Awake(now));
   EXPECT_EQ(wire.Arrival(now), now + kByteTime);
@@ -27,7 +27,7 @@ TEST(Wire_Schedule, CarriesBytesOneAfterTheOtherInEachDirectionAndIsAwakeMeanwhi
 }
 
 TEST(Wire_Schedule, HoldsRepliesBackForTheTurnsOfAnAdapter) {
-  Wire_Schedule adapter({.Wire = Pace::kAtOnce, .Latency = 16ms});
+  Wire_Schedule adapter({.Wire = Pace::At_Once, .Latency = 16ms});
   const Time turn(160ms);
   EXPECT_EQ(adapter.Departure(turn + 1ms), turn + 16ms);
   EXPECT_EQ(adapter.Departure(turn + 15ms), turn + 16ms) << "what has come by then comes together";

@@ -21,23 +21,23 @@ TEST(Delivered_Catalogue, IsWholeAndAgreesWithTheDataSheets) {
   EXPECT_TRUE(catalogue.Version.starts_with("Ver "));
   std::multiset<std::string> names{"24LC1026"};  // Left out: no block read fits the whole of it.
   for (const Device_Row& row : catalogue.Rows) {
-    SCOPED_TRACE(row[kName]);
-    names.insert(row[kName]);
-    for (int column = kName; column <= kClockSpeed; ++column)
+    SCOPED_TRACE(row[Column_Name]);
+    names.insert(row[Column_Name]);
+    for (int column = Column_Name; column <= Column_Clock_Speed; ++column)
       EXPECT_FALSE(row[static_cast<std::size_t>(column)].empty()) << "column " << column;
-    const std::size_t bytes = board::Chip_Size(row[kName]);
-    EXPECT_EQ(1U << Number_Cell(row, kMemSize), bytes);
-    EXPECT_EQ(row[kDensity], std::to_string(bytes) + "x8");
-    if (const auto* chip = board::Find_Three_Wire(row[kName])) {
-      EXPECT_EQ(Number_Cell(row, kFamily), 3);
-      EXPECT_EQ(Number_Cell(row, kAddressBits), chip->AddressBits);
+    const std::size_t bytes = board::Chip_Size(row[Column_Name]);
+    EXPECT_EQ(1U << Number_Cell(row, Column_Mem_Size), bytes);
+    EXPECT_EQ(row[Column_Density], std::to_string(bytes) + "x8");
+    if (const auto* chip = board::Find_Three_Wire(row[Column_Name])) {
+      EXPECT_EQ(Number_Cell(row, Column_Family), 3);
+      EXPECT_EQ(Number_Cell(row, Column_Address_Bits), chip->AddressBits);
       continue;
     }
-    const board::Two_Wire_Part* chip = board::Find_Two_Wire(row[kName]);
-    EXPECT_EQ(Number_Cell(row, kFamily), 2);
-    EXPECT_EQ(Number_Cell(row, kAddressMode), chip->AddressBytes);
+    const board::Two_Wire_Part* chip = board::Find_Two_Wire(row[Column_Name]);
+    EXPECT_EQ(Number_Cell(row, Column_Family), 2);
+    EXPECT_EQ(Number_Cell(row, Column_Address_Mode), chip->AddressBytes);
     // A page that is too large overwrites its own start; a smaller one only takes longer.
-    const auto page = static_cast<std::size_t>(Number_Cell(row, kPageSize));
+    const auto page = static_cast<std::size_t>(Number_Cell(row, Column_Page_Size));
     EXPECT_TRUE(page >= 1 && page <= chip->Page && chip->Page % page == 0) << page;
   }
   const auto chips = board::Chip_Names();

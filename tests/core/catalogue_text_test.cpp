@@ -34,7 +34,7 @@ TEST(Catalogue_Text, EachRecordIsOneOfFourKinds) {
     SCOPED_TRACE(c.Text);
     const Catalogue catalogue = Read_Catalogue(Catalogue_Text(c.Text));
     Texts names;
-    for (const Device_Row& row : catalogue.Rows) names.push_back(row[kName]);
+    for (const Device_Row& row : catalogue.Rows) names.push_back(row[Column_Name]);
     EXPECT_EQ(names, c.Rows);
     EXPECT_EQ(catalogue.Version, c.Version);
     EXPECT_TRUE(catalogue.Problems.empty());
@@ -64,8 +64,8 @@ TEST(Catalogue_Text, BadRowsAreToldWithLineAndColumnAndReadAsZero) {
                                        "5行目: D の列4 (ページサイズ) の \"12\"" + no_page,
                                        "6行目: E の列4 (ページサイズ) の \"-2147483648\"" + no_page,
                                        "8行目: G の列6 (アドレスビット数) の \"-\"" + no_number}));
-  EXPECT_EQ(Number_Cell(catalogue.Rows[0], kMemSize), 0);
-  EXPECT_EQ(Number_Cell(catalogue.Rows[0], kPageSize), 8);
+  EXPECT_EQ(Number_Cell(catalogue.Rows[0], Column_Mem_Size), 0);
+  EXPECT_EQ(Number_Cell(catalogue.Rows[0], Column_Page_Size), 8);
 }
 
 TEST(Catalogue_Text, RowsBehindTheTablesEndAreToldAndLeftOut) {

@@ -14,7 +14,8 @@
 namespace wrenbit {
 namespace {
 
-struct Device_Selection : testing::Test {
+class Device_Selection : public testing::Test {
+ protected:
   Test_Bench bench;
   void SetUp() override {
     DeviceTable = Read_Catalogue(

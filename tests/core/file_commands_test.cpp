@@ -18,17 +18,18 @@
 namespace wrenbit {
 namespace {
 
-struct File_Commands : testing::Test {
+class File_Commands : public testing::Test {
+ protected:
   Test_Bench bench;
   const Temporary_Folder folder;
   CommonDialog& dialog = frmMain.dlgCommonDialog;
-  std::string Answer;  // The path that the user picks; empty cancels.
+  std::string answer;  // The path that the user picks; empty cancels.
 
   void SetUp() override {
     dialog.View_Open = dialog.View_Save = [this] {
-      if (Answer.empty()) return false;
-      dialog.FileName = Answer;
-      dialog.FileTitle = std::filesystem::path(Answer).filename().string();
+      if (answer.empty()) return false;
+      dialog.FileName = answer;
+      dialog.FileTitle = std::filesystem::path(answer).filename().string();
       return true;
     };
     MainTitle = "Title  ";
@@ -42,7 +43,7 @@ struct File_Commands : testing::Test {
 TEST_F(File_Commands, ASavedImageComesBack) {
   for (std::size_t i = 0; i < 128; ++i) ImageBuffer[i] = static_cast<std::uint8_t>(i * 3);
   const Bytes image = ImageBuffer;
-  Answer = folder / "a.hex";
+  answer = folder / "a.hex";
   mnuFileSaveAs_Click();
   EXPECT_EQ(Message(), "ファイルに保存終了。 ");
   EXPECT_EQ(bench.Stored["SAVE_DIR"], folder.Path());
@@ -53,7 +54,7 @@ TEST_F(File_Commands, ASavedImageComesBack) {
   EXPECT_EQ(ImageBuffer, image);
   EXPECT_EQ(frmMain.MSFGrid1.Cell(8, 16), "0x7D");
   EXPECT_EQ(Message(), "ファイルオープン完了");
-  EXPECT_EQ(frmMain.Caption(), "Title  " + Answer);
+  EXPECT_EQ(frmMain.Caption(), "Title  " + answer);
   EXPECT_EQ(bench.Stored["OPEN_DIR0"], folder.Path());
   EXPECT_EQ(frmMain.MousePointer(), Pointer::Default);
 }
@@ -64,9 +65,9 @@ TEST_F(File_Commands, ACancelledOrMissingFileChangesNothing) {
   const std::string too_large = folder / "large.hex";
   Put_Content(too_large, "");
   std::filesystem::resize_file(too_large, 300 << 20);
-  for (const std::string& answer : {folder / "none.hex", folder.Path(), too_large, std::string()}) {
-    SCOPED_TRACE(answer);
-    Answer = answer;
+  for (const std::string& path : {folder / "none.hex", folder.Path(), too_large, std::string()}) {
+    SCOPED_TRACE(path);
+    answer = path;
     mnuFileOpen_Click();
     EXPECT_EQ(Message(), "ファイルをオープンできませんでした。");
   }
@@ -78,38 +79,38 @@ TEST_F(File_Commands, ACancelledOrMissingFileChangesNothing) {
 }
 
 TEST_F(File_Commands, AnExistingFileIsAskedForAndStandsWhenRefused) {
-  Answer = folder / "a.hex";
-  Put_Content(Answer, "old");
+  answer = folder / "a.hex";
+  Put_Content(answer, "old");
   bench.Box_Answer = false;
   mnuFileSaveAs_Click();
   EXPECT_EQ(bench.Boxes, std::vector<std::string>{"上書き保存 | ファイルが存在します。上書きしますか？"});
   EXPECT_EQ(Message(), "ファイル保存をキャンセルしました。");
-  EXPECT_EQ(Content(Answer), "old");
+  EXPECT_EQ(Content(answer), "old");
   EXPECT_TRUE(bench.Stored.empty());
 
   bench.Box_Answer = true;
   mnuFileSaveAs_Click();
-  EXPECT_EQ(Content(Answer).substr(0, 9), ":10000000");
-  EXPECT_EQ(frmMain.Caption(), "Title  " + Answer);
+  EXPECT_EQ(Content(answer).substr(0, 9), ":10000000");
+  EXPECT_EQ(frmMain.Caption(), "Title  " + answer);
 }
 
 TEST_F(File_Commands, ADeviceWithoutASizeTakesNoFileAndOverwritesNone) {
-  Answer = folder / "a.hex";
-  Put_Content(Answer, "good");
+  answer = folder / "a.hex";
+  Put_Content(answer, "good");
   MemSize = 2;
   Buffer_Init();
   for (const auto command : {mnuFileOpen_Click, mnuFileSaveAs_Click}) {
     command();
     EXPECT_EQ(Message(), "デバイスのメモリサイズが正しくありません。");
-    EXPECT_EQ(Content(Answer), "good");
+    EXPECT_EQ(Content(answer), "good");
   }
 }
 
 TEST_F(File_Commands, WhatCannotBeWrittenIsToldWithItsReason) {
-  Answer = folder / "no such folder/a.hex";
+  answer = folder / "no such folder/a.hex";
   mnuFileSaveAs_Click();
   EXPECT_EQ(bench.Boxes, std::vector<std::string>{App.Title + " | ファイルを保存できませんでした。\r\n" +
-                                                  Answer + "\r\n保存先のフォルダが見つかりません。"});
+                                                  answer + "\r\n保存先のフォルダが見つかりません。"});
   EXPECT_EQ(Message(), "ファイルを保存できませんでした。");
   EXPECT_EQ(frmMain.MousePointer(), Pointer::Default);
 }

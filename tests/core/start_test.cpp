@@ -19,7 +19,8 @@
 namespace wrenbit {
 namespace {
 
-struct Start : testing::Test {
+class Start : public testing::Test {
+ protected:
   Test_Bench bench;
   const Temporary_Folder folder;
   const std::filesystem::path before = std::filesystem::current_path();

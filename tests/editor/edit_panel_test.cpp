@@ -20,7 +20,8 @@ namespace {
 
 enum class In { Hex, Dec, Asc, Bit };
 
-struct Edit_Panel : testing::Test {
+class Edit_Panel : public testing::Test {
+ protected:
   Test_Bench bench;
   void SetUp() override {
     frmMain.Show();

@@ -16,7 +16,8 @@
 namespace wrenbit {
 namespace {
 
-struct Hex_Grid : testing::Test {
+class Hex_Grid : public testing::Test {
+ protected:
   Test_Bench bench;
   const FlexGrid& grid = frmMain.MSFGrid1;
   static void Blank_Image(int mem_size) {

@@ -86,33 +86,33 @@ TEST(Bus, ALineThatDoesNotFollowIsNamedByItsStep) {
     const char* Text;
     int Error = 0;
   } cases[] = {
-      {C24_Power_on, Line::kSda, false, C24_StartBit, "24Cxx StartBit PortA error1", 1},
-      {C24_Power_on, Line::kSda, true, C24_StartBit, "24Cxx StartBit PortA error2", 1},
-      {C24_Power_on, Line::kScl, true, C24_StartBit, "24Cxx StartBit PortA error3", 1},
-      {C24_Power_on, Line::kScl, false, C24_StopBit, "24Cxx StopBit PortA error1", 1},
-      {C24_Power_on, Line::kSda, false, C24_StopBit, "24Cxx StopBit PortA error2", 1},
-      {C93_Power_on, Line::kDi, true, C93_Data, "93Cxx DATA Read on PortB error"},
-      {C93_Power_on, Line::kSk, false, C93_Data, "93Cxx DATA Read on PortB error"},
-      {C93_Power_on, Line::kSupply, false, C93_Data, "93Cxx DATA Read on PortB error"},
-      {nullptr, Line::kSda, false, C24_Power_on, "24Cxx Power on PortA error"},
-      {nullptr, Line::kScl, false, C24_Power_on, "24Cxx Power on PortA error"},
-      {nullptr, Line::kSupply, false, C24_Power_on, "24Cxx Power on PortB error"},
-      {nullptr, Line::kSk, true, C24_Power_on, "24Cxx Power on PortB error"},
-      {nullptr, Line::kDo, true, C24_Power_on, "24Cxx Power on PortB error"},
-      {nullptr, Line::kCs, true, C24_Power_on, "24Cxx Power on PortC error"},
-      {C24_Power_on, Line::kSupply, false, C24_Power_off, ""},  // Where it goes.
-      {C24_Power_on, Line::kSda, true, C24_Power_off, "24Cxx Power on PortA error"},
-      {C24_Power_on, Line::kSupply, true, C24_Power_off, "24Cxx Power on PortA error"},
-      {nullptr, Line::kSda, true, C93_Power_on, "93Cxx Power on PortA error"},
-      {nullptr, Line::kScl, true, C93_Power_on, "93Cxx Power on PortA error"},
-      {nullptr, Line::kSupply, false, C93_Power_on, "93Cxx Power on PortB error"},
-      {nullptr, Line::kDi, true, C93_Power_on, "93Cxx Power on PortB error"},
-      {nullptr, Line::kSk, true, C93_Power_on, "93Cxx Power on PortB error"},
-      {nullptr, Line::kDo, true, C93_Power_on, ""},  // The chip's own line.
-      {nullptr, Line::kCs, true, C93_Power_on, "93Cxx Power on PortC error"},
-      {C93_Power_on, Line::kSupply, false, C93_Power_off, ""},  // Where it goes.
-      {C93_Power_on, Line::kDo, true, C93_Power_off, "93Cxx Power on PortB error"},
-      {C93_Power_on, Line::kSupply, true, C93_Power_off, "93Cxx Power on PortA error"},
+      {C24_Power_on, Line::Sda, false, C24_StartBit, "24Cxx StartBit PortA error1", 1},
+      {C24_Power_on, Line::Sda, true, C24_StartBit, "24Cxx StartBit PortA error2", 1},
+      {C24_Power_on, Line::Scl, true, C24_StartBit, "24Cxx StartBit PortA error3", 1},
+      {C24_Power_on, Line::Scl, false, C24_StopBit, "24Cxx StopBit PortA error1", 1},
+      {C24_Power_on, Line::Sda, false, C24_StopBit, "24Cxx StopBit PortA error2", 1},
+      {C93_Power_on, Line::Di, true, C93_Data, "93Cxx DATA Read on PortB error"},
+      {C93_Power_on, Line::Sk, false, C93_Data, "93Cxx DATA Read on PortB error"},
+      {C93_Power_on, Line::Supply, false, C93_Data, "93Cxx DATA Read on PortB error"},
+      {nullptr, Line::Sda, false, C24_Power_on, "24Cxx Power on PortA error"},
+      {nullptr, Line::Scl, false, C24_Power_on, "24Cxx Power on PortA error"},
+      {nullptr, Line::Supply, false, C24_Power_on, "24Cxx Power on PortB error"},
+      {nullptr, Line::Sk, true, C24_Power_on, "24Cxx Power on PortB error"},
+      {nullptr, Line::Do, true, C24_Power_on, "24Cxx Power on PortB error"},
+      {nullptr, Line::Cs, true, C24_Power_on, "24Cxx Power on PortC error"},
+      {C24_Power_on, Line::Supply, false, C24_Power_off, ""},  // Where it goes.
+      {C24_Power_on, Line::Sda, true, C24_Power_off, "24Cxx Power on PortA error"},
+      {C24_Power_on, Line::Supply, true, C24_Power_off, "24Cxx Power on PortA error"},
+      {nullptr, Line::Sda, true, C93_Power_on, "93Cxx Power on PortA error"},
+      {nullptr, Line::Scl, true, C93_Power_on, "93Cxx Power on PortA error"},
+      {nullptr, Line::Supply, false, C93_Power_on, "93Cxx Power on PortB error"},
+      {nullptr, Line::Di, true, C93_Power_on, "93Cxx Power on PortB error"},
+      {nullptr, Line::Sk, true, C93_Power_on, "93Cxx Power on PortB error"},
+      {nullptr, Line::Do, true, C93_Power_on, ""},  // The chip's own line.
+      {nullptr, Line::Cs, true, C93_Power_on, "93Cxx Power on PortC error"},
+      {C93_Power_on, Line::Supply, false, C93_Power_off, ""},  // Where it goes.
+      {C93_Power_on, Line::Do, true, C93_Power_off, "93Cxx Power on PortB error"},
+      {C93_Power_on, Line::Supply, true, C93_Power_off, "93Cxx Power on PortA error"},
   };
   for (const auto& c : cases) {
     SCOPED_TRACE(std::to_string(&c - cases) + c.Text);

@@ -22,7 +22,7 @@ struct Case {
   std::string Firmware;
 };
 
-void PrintTo(const Case& c, std::ostream* out) { *out << c.Row[kName] << "_" << c.Firmware; }
+void PrintTo(const Case& c, std::ostream* out) { *out << c.Row[Column_Name] << "_" << c.Firmware; }
 
 std::vector<Case> All_Cases() {
   std::vector<Case> cases;
@@ -31,8 +31,9 @@ std::vector<Case> All_Cases() {
   return cases;
 }
 
-struct Every_Row : testing::TestWithParam<Case> {
-  Chip_Bench bench{GetParam().Row[kName], GetParam().Firmware};
+class Every_Row : public testing::TestWithParam<Case> {
+ protected:
+  Chip_Bench bench{GetParam().Row[Column_Name], GetParam().Firmware};
   Every_Row() { Select_Row(GetParam().Row); }
 };
 

@@ -112,20 +112,20 @@ void PrintTo(const Case& c, std::ostream* out) {
 // than its counterpart.
 class One_Run {
  public:
-  explicit One_Run(const Case& of) : c(of), Bench(c.Device.Chip, c.Command.Firmware) {
-    Select_Device(c.Device.Family, kMemSize, c.Device.Page, c.Device.AddressMode, c.Device.AddressBits);
+  explicit One_Run(const Case& of) : C(of), Bench(C.Device.Chip, C.Command.Firmware) {
+    Select_Device(C.Device.Family, kMemSize, C.Device.Page, C.Device.AddressMode, C.Device.AddressBits);
     frmMain.CmbSize.Set_ListIndex(0);
     Bench.Fill_Chip(1);
     Bench.Fill_Image(2);
     Grid_Refill();
     Select_Address(kByteAt);
     frmMain.MSFGrid1.Click();
-    Image = WantedImage = ImageBuffer;
-    Chip = WantedChip = Bench.Chip_Contents();
-    Shown = frmMain.Text_modify_hex.Text();
-    if (c.Command.Block && !c.Command.Writes) WantedImage.assign(kDevice, 0xFF);
+    image = wanted_image = ImageBuffer;
+    chip = wanted_chip = Bench.Chip_Contents();
+    shown = frmMain.Text_modify_hex.Text();
+    if (C.Command.Block && !C.Command.Writes) wanted_image.assign(kDevice, 0xFF);
     for (std::size_t at = 0; at < kDevice; ++at)
-      if (Asked(at)) c.Command.Writes ? WantedChip[at] = Image[at] : WantedImage[at] = Chip[at];
+      if (Asked(at)) C.Command.Writes ? wanted_chip[at] = image[at] : wanted_image[at] = chip[at];
     Bench.Board = &Faulty;
   }
 
@@ -142,17 +142,17 @@ class One_Run {
       Flashed = Flashed || Panel(1) == "93Cxx DATA Read on PortB error";
       if (fault.Pause && Faulty.Met() && ++yields == 4) Bench.Pass(0.1);
     };
-    c.Command.Run();
+    C.Command.Run();
   }
 
-  bool Said_To_Be_Done() const { return c.Command.Block ? Panel(1).ends_with("sec)") : Panel(1) == "Finsh"; }
+  bool Said_To_Be_Done() const { return C.Command.Block ? Panel(1).ends_with("sec)") : Panel(1) == "Finsh"; }
   // Those at the start of the image that are the chip's.
   std::size_t Good_Bytes() const {
     std::size_t at = 0;
-    while (at < kBlock && ImageBuffer[at] == Chip[at]) ++at;
+    while (at < kBlock && ImageBuffer[at] == chip[at]) ++at;
     return at;
   }
-  bool Data_Right() const { return ImageBuffer == WantedImage && Bench.Chip_Contents() == WantedChip; }
+  bool Data_Right() const { return ImageBuffer == wanted_image && Bench.Chip_Contents() == wanted_chip; }
 
   // What of all that must hold does not, in words; empty when everything does.
   std::string Violation(const Fault& fault) const {
@@ -166,7 +166,7 @@ class One_Run {
     // Time.
     if (Bench.LongestGap > 1.001) return "a wait of " + std::to_string(Bench.LongestGap) + " s";
     const bool answers_may_come = fault.Refused == 0 && fault.Board != Fault::Out_Of_Reach;
-    const std::size_t most = !answers_may_come ? 0 : On_The_Bus() ? c.Command.Waits[c.Device.AddressMode] : 1;
+    const std::size_t most = !answers_may_come ? 0 : On_The_Bus() ? C.Command.Waits[C.Device.AddressMode] : 1;
     if (Bench.SilentSeconds > most) return std::to_string(Bench.SilentSeconds) + " waits for an answer";
 
     // The socket.
@@ -194,40 +194,42 @@ class One_Run {
     if (frmMain.CmbSize.ListIndex() != 0) return "the block has another size";
     if (ImageBuffer.size() != kDevice) return "the image has another size";
     if (!Chip_Untouched_Elsewhere()) return "a cell outside the block has changed";
-    const bool read = !c.Command.Writes;
+    const bool read = !C.Command.Writes;
     if (done && !Data_Right() && !(read && fault.As == Ends::Perhaps_Wrong))
       return "wrong data, said to be done";
     for (std::size_t at = 0; at < kDevice; ++at)
-      if (done && !Asked(at) && ImageBuffer[at] != WantedImage[at]) return "a byte not asked for has changed";
-    if ((!read || (!done && !c.Command.Block)) && ImageBuffer != Image) return "the image has changed";
-    if (read && c.Command.Block && !done && !Read_So_Far(fault)) return "the image is no part of the chip";
+      if (done && !Asked(at) && ImageBuffer[at] != wanted_image[at])
+        return "a byte not asked for has changed";
+    if ((!read || (!done && !C.Command.Block)) && ImageBuffer != image) return "the image has changed";
+    if (read && C.Command.Block && !done && !Read_So_Far(fault)) return "the image is no part of the chip";
     if (Bench.Ended) return {};
-    if (!Grid_Shows(read && done ? ImageBuffer : Image)) return "the grid shows something else";
+    if (!Grid_Shows(read && done ? ImageBuffer : image)) return "the grid shows something else";
     const bool grey = !frmMain.MSFGrid1.OutOfDate().empty() && !frmMain.Text_modify_hex.OutOfDate().empty() &&
                       !frmMain.LblCheckSUM.OutOfDate().empty();
-    if (grey != (!done && read && c.Command.Block)) return "the grid does not tell that it is not the image";
-    if (!done && read && frmMain.Text_modify_hex.Text() != Shown) return "the edit panel has changed";
+    if (grey != (!done && read && C.Command.Block)) return "the grid does not tell that it is not the image";
+    if (!done && read && frmMain.Text_modify_hex.Text() != shown) return "the edit panel has changed";
     return {};
   }
 
-  const Case& c;
+  const Case& C;
   Chip_Bench Bench;
   board::Faulty_Board Faulty{Bench.Programmer};
   bool Flashed = false;  // The one message of the three-wire bus that a good end replaces.
 
  private:
-  bool Asked(std::size_t at) const { return c.Command.Block ? at < kBlock : at == kByteAt; }
+  bool Asked(std::size_t at) const { return C.Command.Block ? at < kBlock : at == kByteAt; }
   bool On_The_Bus() const { return !Bench.Commands.empty() && Bench.Commands.back().front() == 'm'; }
 
   // In a three-wire transfer the chip is let go of before.
   bool Ended_With_Power_Off(bool deselected) const {
-    static const std::vector<Bytes> kOff{{'m', 'w', 'a', 0x00}, {'m', 'w', 'b', 0x00}, {'m', 'w', 'c', 0x80},
-                                         {'m', 't', 'a', 0xFF}, {'m', 't', 'b', 0xFF}, {'m', 't', 'c', 0x7F}};
+    static const std::vector<Bytes> k_off{{'m', 'w', 'a', 0x00}, {'m', 'w', 'b', 0x00},
+                                          {'m', 'w', 'c', 0x80}, {'m', 't', 'a', 0xFF},
+                                          {'m', 't', 'b', 0xFF}, {'m', 't', 'c', 0x7F}};
     auto last = Bench.Commands.rbegin();
     while (last != Bench.Commands.rend() && last->size() == 3) ++last;  // Its read-backs.
-    if (!std::equal(kOff.rbegin(), kOff.rend(), last)) return false;
-    const bool asked = deselected && c.Device.Family == 3;
-    return !asked || *(last + std::ssize(kOff)) == Bytes{'m', 'w', 'c', 0x80};
+    if (!std::equal(k_off.rbegin(), k_off.rend(), last)) return false;
+    const bool asked = deselected && C.Device.Family == 3;
+    return !asked || *(last + std::ssize(k_off)) == Bytes{'m', 'w', 'c', 0x80};
   }
 
   // The last read-back of the power-off is the one that failed.
@@ -238,7 +240,7 @@ class One_Run {
       return std::string("プログラマ接続確認エラー。") + (answered ? "" : "【1】") + reason;
     }
     const char port = static_cast<char>(Bench.Commands.back()[2] - 'a' + 'A');
-    return (c.Device.Family == 2 ? "24Cxx" : "93Cxx") + std::string(" Power on Port") + port + " error" +
+    return (C.Device.Family == 2 ? "24Cxx" : "93Cxx") + std::string(" Power on Port") + port + " error" +
            (Faulty.Gone() ? " ポートが切断されました。" : "");
   }
 
@@ -246,7 +248,7 @@ class One_Run {
   bool Chip_Untouched_Elsewhere() const {
     const auto cells = Bench.Cells->Cells();
     for (std::size_t at = 0; at < cells.size(); ++at)
-      if (cells[at] != Chip[at] && cells[at] != WantedChip[at]) return false;
+      if (cells[at] != chip[at] && cells[at] != wanted_chip[at]) return false;
     return true;
   }
 
@@ -259,8 +261,8 @@ class One_Run {
     return true;
   }
 
-  Bytes Image, Chip, WantedImage, WantedChip;
-  std::string Shown;
+  Bytes image, chip, wanted_image, wanted_chip;
+  std::string shown;
 };
 
 struct Fault_Sweep : testing::TestWithParam<Case> {};
@@ -294,7 +296,7 @@ TEST_P(Fault_Sweep, EveryFaultAtEveryPlace) {
 }
 
 TEST_P(Fault_Sweep, AtEveryYieldTheWindowCanBeClosedAndNothingElseBeReached) {
-  static const Fault kNone{.Name = "window closed", .As = Ends::Right_Or_Noticed};
+  static const Fault k_none{.Name = "window closed", .As = Ends::Right_Or_Noticed};
   // What has no command of its own may stay as it is.
   const auto harmless = [](Control* control) {
     const auto* menu = dynamic_cast<Menu*>(control);
@@ -316,7 +318,7 @@ TEST_P(Fault_Sweep, AtEveryYieldTheWindowCanBeClosedAndNothingElseBeReached) {
     met = yields > closings;
     ASSERT_EQ(run.Bench.Ended, met);
     ASSERT_EQ(LinkError, met ? 1 : 0) << "it ends at the next look";
-    ASSERT_EQ(run.Violation(kNone), "") << "yield " << closings + 1;
+    ASSERT_EQ(run.Violation(k_none), "") << "yield " << closings + 1;
     ASSERT_EQ(run.Bench.Stored.contains("MainLeft"), met);
   }
   EXPECT_GT(closings, 40U);

@@ -122,10 +122,10 @@ TEST(Transfer_Failure, WithoutAChipOrALineATwoWireTransferFailsAndAThreeWireOneD
     std::uint8_t Bit_By_Bit, By_The_Board;  // The byte that a read gives.
     bool Writes;
   } faults[] = {{"24C02", {}, false, "24Cxx Power on PortA error", 0xFF, 0xFF, false},
-                {"24C02", Line::kSda, false, "24Cxx Power on PortA error", 0x00, 0x00, false},
+                {"24C02", Line::Sda, false, "24Cxx Power on PortA error", 0x00, 0x00, false},
                 {"AT93C46", {}, false, "", 0xFF, 0xFF, false},
-                {"AT93C46", Line::kDi, true, "", 0x00, 0xFF, false},
-                {"AT93C46", Line::kDo, true, "", 0xFF, 0xFF, true}};
+                {"AT93C46", Line::Di, true, "", 0x00, 0xFF, false},
+                {"AT93C46", Line::Do, true, "", 0xFF, 0xFF, true}};
   for (const auto& fault : faults)
     for (const char* firmware : {"4.90", "5.00"})
       for (const Command& command : kCommands) {

@@ -12,7 +12,7 @@
 namespace wrenbit {
 namespace {
 
-TEST(IntelHexWriter, WritesFullRecordsAndTheEndRecord) {
+TEST(Intel_Hex_Writer, WritesFullRecordsAndTheEndRecord) {
   ImageBuffer.resize(32);
   std::iota(ImageBuffer.begin(), ImageBuffer.end(), std::uint8_t{0});
   EXPECT_EQ(Intel_Hex_Text(),
@@ -23,7 +23,7 @@ TEST(IntelHexWriter, WritesFullRecordsAndTheEndRecord) {
   EXPECT_EQ(Intel_Hex_Text(), ":10000000FFFFFFFFFFFFFFFFFFFFFFFFFFFFFFFF00\r\n:00000001FF\r\n");
 }
 
-TEST(IntelHexWriter, ExtendsAddressesOnlyBeyond64KiB) {
+TEST(Intel_Hex_Writer, ExtendsAddressesOnlyBeyond64KiB) {
   constexpr std::size_t kBankText = 45 * 4096;  // A record has 45 characters, with its line end.
   const std::string bank_1 = ":020000040001F9\r\n:10000000", bank_2 = ":020000040002F8\r\n:10000000";
   ImageBuffer.assign(65536, 0xFF);
@@ -50,11 +50,11 @@ Stored Load(std::string_view text, std::size_t image_size) {
   return stored;
 }
 
-TEST(IntelHexReader, TakesWhatItCan) {
+TEST(Intel_Hex_Reader, TakesWhatItCan) {
   const struct {
-    const char* what;
-    const char* text;
-    Stored stored;
+    const char* What;
+    const char* Text;
+    Stored Kept;
   } cases[] = {
       {"end record only", ":00000001FF\r\n", {}},
       {"odd length", ":03000500010203", {{5, 1}, {6, 2}, {7, 3}}},
@@ -77,17 +77,17 @@ TEST(IntelHexReader, TakesWhatItCan) {
       {"past the end", ":0300FE00010203\n:0100000009", {{0xFE, 1}}},
       {"no byte past the end", ":00FFFF00\n:0100000001", {{0, 1}}},
   };
-  for (const auto& [what, text, stored] : cases) EXPECT_EQ(Load(text, 255), stored) << what;
+  for (const auto& [what, text, kept] : cases) EXPECT_EQ(Load(text, 255), kept) << what;
   EXPECT_EQ(Load(":0100000001", 0), Stored());
 }
 
-TEST(IntelHexReader, MovesDataOnlyInAnImageOver64KiB) {
+TEST(Intel_Hex_Reader, MovesDataOnlyInAnImageOver64KiB) {
   constexpr std::size_t kLarge = 0x20000;
   const struct {
-    const char* what;
-    const char* text;
-    Stored large;
-    Stored small;
+    const char* What;
+    const char* Text;
+    Stored Large;
+    Stored Small;
   } cases[] = {
       {"linear", ":020000040001F9\n:0100050007", {{0x10005, 7}}, {{5, 7}}},
       {"segment", ":020000021001EB\n:0100050007", {{0x10015, 7}}, {{5, 7}}},

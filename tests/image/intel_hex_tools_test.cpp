@@ -26,9 +26,9 @@ constexpr Tool kTools[] = {
     {"objcopy", "objcopy -I binary -O ihex bin hex", "objcopy -I ihex -O binary hex bin"},
 };
 
-class OtherTools : public testing::TestWithParam<Tool> {};
+class Other_Tools : public testing::TestWithParam<Tool> {};
 
-TEST_P(OtherTools, ReadOurFilesAndWriteFilesThatWeRead) {
+TEST_P(Other_Tools, ReadOurFilesAndWriteFilesThatWeRead) {
   const auto run = [](const std::string& command) { return std::system(command.c_str()); };
   if (run(GetParam().Name + std::string(" --version >/dev/null 2>&1")) != 0)
     GTEST_SKIP() << GetParam().Name << " is not installed";
@@ -52,7 +52,7 @@ TEST_P(OtherTools, ReadOurFilesAndWriteFilesThatWeRead) {
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(, OtherTools, testing::ValuesIn(kTools),
+INSTANTIATE_TEST_SUITE_P(, Other_Tools, testing::ValuesIn(kTools),
                          [](const auto& tool) { return std::string(tool.param.Name); });
 
 }  // namespace

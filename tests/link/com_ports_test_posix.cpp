@@ -19,7 +19,8 @@ namespace {
 namespace fs = std::filesystem;
 
 // A made-up /sys, and a configuration folder beside it.
-struct Com_Ports : testing::Test {
+class Com_Ports : public testing::Test {
+ protected:
   const Temporary_Folder temporary;
   const fs::path system = temporary / "sys", config = temporary / "config";
   const Com_Numbers numbers{config, system};

@@ -18,7 +18,8 @@
 namespace wrenbit {
 namespace {
 
-struct Handshake_Test : testing::Test {
+class Handshake_Test : public testing::Test {
+ protected:
   Test_Bench bench;
   Scripted_Board board;
   void SetUp() override {
@@ -138,14 +139,11 @@ TEST_F(Handshake_Test, RepliesThatAreNoneEndTheTransfer) {
 }
 
 TEST_F(Handshake_Test, TheVersionDecidesByItsNumber) {
-  const char *const kLimit256 = "[AllRead]=２５６バイト", *const kLimit4096 = "[AllRead]=４０９６バイト";
+  const char *const limit256 = "[AllRead]=２５６バイト", *const limit4096 = "[AllRead]=４０９６バイト";
   const std::tuple<std::string, float, std::string> cases[] = {
-      {"4.90", 4.9F, kLimit256}, {"4.99", 4.99F, kLimit256},
-      {"5.00", 5, kLimit4096},   {"  5 ", 5, kLimit4096},
-      {"12.0", 12, kLimit4096},  {"-1.0", -1, kLimit256},
-      {"0.00", 0, ""},           {"nan ", 0, ""},
-      {"inf ", 0, ""},           {"9e99", 0, ""},
-      {"5.0a", 0, ""},
+      {"4.90", 4.9F, limit256}, {"4.99", 4.99F, limit256}, {"5.00", 5, limit4096}, {"  5 ", 5, limit4096},
+      {"12.0", 12, limit4096},  {"-1.0", -1, limit256},    {"0.00", 0, ""},        {"nan ", 0, ""},
+      {"inf ", 0, ""},          {"9e99", 0, ""},           {"5.0a", 0, ""},
   };
   for (const auto& [text, version, memo] : cases) {
     SCOPED_TRACE(text);

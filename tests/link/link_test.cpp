@@ -15,7 +15,8 @@
 namespace wrenbit {
 namespace {
 
-struct Link_Test : testing::Test {
+class Link_Test : public testing::Test {
+ protected:
   Test_Bench bench;
   Scripted_Board board;
   void SetUp() override {

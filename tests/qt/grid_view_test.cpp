@@ -18,8 +18,9 @@ namespace {
 
 constexpr int kRows = 100;  // With the header.
 
-struct GridView : testing::Test {
-  GridView() {
+class Grid_View_Test : public testing::Test {
+ protected:
+  Grid_View_Test() {
     form.Show();
     grid.Set_Cols(18);
     grid.Set_Rows(kRows);
@@ -36,7 +37,7 @@ struct GridView : testing::Test {
   int clicks = 0;
 };
 
-TEST_F(GridView, ClicksAndKeysMoveTheCurrentCellInSightButNotIntoTheHeaders) {
+TEST_F(Grid_View_Test, ClicksAndKeysMoveTheCurrentCellInSightButNotIntoTheHeaders) {
   const auto click = [this](int row, int col) {
     return [=, this] {
       QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, view.Cell_Rect(row, col).center());
@@ -79,7 +80,7 @@ TEST_F(GridView, ClicksAndKeysMoveTheCurrentCellInSightButNotIntoTheHeaders) {
   }
 }
 
-TEST_F(GridView, AGridThatIsNotTheImageIsGreyAndSaysWhy) {
+TEST_F(Grid_View_Test, AGridThatIsNotTheImageIsGreyAndSaysWhy) {
   const QImage good = view.grab().toImage();
   grid.Set_OutOfDate("前の内容です。");
   grid.Set_WeakFrom(1);
@@ -94,7 +95,7 @@ TEST_F(GridView, AGridThatIsNotTheImageIsGreyAndSaysWhy) {
 }
 
 // Scrolling moves what is on the screen and paints only the rest.
-TEST_F(GridView, AScrolledGridLooksLikeAPaintedOne) {
+TEST_F(Grid_View_Test, AScrolledGridLooksLikeAPaintedOne) {
   for (int row = 1; row < kRows; ++row) {
     grid.Set_Row(row);
     grid.Set_Text(std::to_string(row));
@@ -114,7 +115,7 @@ TEST_F(GridView, AScrolledGridLooksLikeAPaintedOne) {
   }
 }
 
-TEST_F(GridView, ARowThatCodeMakesCurrentComesIntoSightAlsoAfterARefillOfTheHiddenGrid) {
+TEST_F(Grid_View_Test, ARowThatCodeMakesCurrentComesIntoSightAlsoAfterARefillOfTheHiddenGrid) {
   for (const int row : {kRows - 1, 50, 1}) {
     grid.Set_Row(row);
     EXPECT_FALSE(view.Cell_Rect(row, 1).isEmpty()) << row;
@@ -127,7 +128,7 @@ TEST_F(GridView, ARowThatCodeMakesCurrentComesIntoSightAlsoAfterARefillOfTheHidd
   EXPECT_EQ(view.verticalScrollBar()->maximum(), 0);
 }
 
-TEST_F(GridView, AssistiveTechnologyFindsACellByRowAndColumnAndPressesItFromAfar) {
+TEST_F(Grid_View_Test, AssistiveTechnologyFindsACellByRowAndColumnAndPressesItFromAfar) {
   grid.Set_FormatString("Adr.|^0x00|^0x01");
   grid.Set_Row(80);
   grid.Set_Col(0);

@@ -13,7 +13,8 @@
 namespace wrenbit {
 namespace {
 
-struct Help : testing::Test {
+class Help : public testing::Test {
+ protected:
   const Temporary_Folder folder;
   Help_Window window;
   QTextBrowser& page = *window.findChild<QTextBrowser*>();

@@ -28,10 +28,10 @@ namespace {
 using Bytes = std::vector<std::uint8_t>;
 
 // A pseudo terminal whose near end is COM7.
-class SerialPort : public testing::Test {
+class Serial_Port : public testing::Test {
  protected:
-  SerialPort() { Plug(); }
-  ~SerialPort() override { Unplug(); }
+  Serial_Port() { Plug(); }
+  ~Serial_Port() override { Unplug(); }
 
   void Plug() {
     char name[128];
@@ -68,7 +68,7 @@ class SerialPort : public testing::Test {
 // Seconds of the processor, which a process that rests does not use.
 double Worked_Since(std::clock_t start) { return static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC; }
 
-TEST_F(SerialPort, EveryByteGoesBothWaysAtOnceAndInOnePieceWithoutTheEventLoop) {
+TEST_F(Serial_Port, EveryByteGoesBothWaysAtOnceAndInOnePieceWithoutTheEventLoop) {
   ASSERT_EQ(port.Open(7, true, false), Port_Fault::None);
   for (const Bytes& bytes : {Bytes{'m', 'w', 0x00, 0xFF}, Bytes{0x0D, 0x0A, 0x11, 0x13, 0x7F, 0x03}}) {
     EXPECT_TRUE(port.Write(bytes));
@@ -80,7 +80,7 @@ TEST_F(SerialPort, EveryByteGoesBothWaysAtOnceAndInOnePieceWithoutTheEventLoop) 
   }
 }
 
-TEST_F(SerialPort, AWriteThatTheSystemDoesNotTakeIsToldAndNotTriedOverAndOver) {
+TEST_F(Serial_Port, AWriteThatTheSystemDoesNotTakeIsToldAndNotTriedOverAndOver) {
   ASSERT_EQ(port.Open(7, true, false), Port_Fault::None);
   EXPECT_FALSE(port.Write(Bytes(100000, 'x'))) << "nobody reads at the far end";
   const std::clock_t before = std::clock();
@@ -94,7 +94,7 @@ TEST_F(SerialPort, AWriteThatTheSystemDoesNotTakeIsToldAndNotTriedOverAndOver) {
   EXPECT_FALSE(port.Write(Bytes{'?'}));
 }
 
-TEST_F(SerialPort, DropAndOpenLeaveNothingFromBefore) {
+TEST_F(Serial_Port, DropAndOpenLeaveNothingFromBefore) {
   ASSERT_EQ(port.Open(7, true, false), Port_Fault::None);
   for (const bool seen_by_qt : {false, true}) {
     Arrive({1, 2, 3});
@@ -107,7 +107,7 @@ TEST_F(SerialPort, DropAndOpenLeaveNothingFromBefore) {
   EXPECT_EQ(port.Waiting(), 0u);
 }
 
-TEST_F(SerialPort, AReplyEndsTheWaitForAnEvent) {
+TEST_F(Serial_Port, AReplyEndsTheWaitForAnEvent) {
   ASSERT_EQ(port.Open(7, true, false), Port_Fault::None);
   QTimer::singleShot(0, [this] { Arrive({'?'}); });
   const QDeadlineTimer limit(30'000);
@@ -115,7 +115,7 @@ TEST_F(SerialPort, AReplyEndsTheWaitForAnEvent) {
   EXPECT_EQ(port.Take(), Bytes{'?'});
 }
 
-TEST_F(SerialPort, AnUnpluggedPortIsNoticedAtOnceLeavesTheProcessorIdleAndMayComeBack) {
+TEST_F(Serial_Port, AnUnpluggedPortIsNoticedAtOnceLeavesTheProcessorIdleAndMayComeBack) {
   for (const bool asked : {true, false}) {
     SCOPED_TRACE(asked);
     int told = 0;
@@ -157,7 +157,7 @@ TEST_F(SerialPort, AnUnpluggedPortIsNoticedAtOnceLeavesTheProcessorIdleAndMayCom
   }
 }
 
-TEST_F(SerialPort, FaultsAreToldApart) {
+TEST_F(Serial_Port, FaultsAreToldApart) {
   for (const int absent : {0, 20, 21}) EXPECT_EQ(port.Open(absent, true, false), Port_Fault::No_Such_Port);
   std::filesystem::create_symlink("/dev/null", folder / "ports/COM8");
   EXPECT_EQ(port.Open(8, true, false), Port_Fault::Refused);
@@ -174,7 +174,7 @@ TEST_F(SerialPort, FaultsAreToldApart) {
   EXPECT_EQ(port.Open(7, true, false), Port_Fault::No_Permission);
 }
 
-TEST(SerialRights, TellWhichGroupToJoinUnlessTheUserIsInIt) {
+TEST(Serial_Rights, TellWhichGroupToJoinUnlessTheUserIsInIt) {
   if (geteuid() != 0) return;  // Nobody else gives files away.
   const Temporary_Folder folder;
   const std::string node = folder / "node";

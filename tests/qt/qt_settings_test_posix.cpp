@@ -15,7 +15,8 @@ namespace {
 
 using namespace std::string_literals;
 
-struct Settings : testing::Test {
+class Settings : public testing::Test {
+ protected:
   const Temporary_Folder folder;
   const std::string path = folder / "settings.ini";
 

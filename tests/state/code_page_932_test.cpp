@@ -7,10 +7,10 @@
 namespace wrenbit {
 namespace {
 
-TEST(CodePage932, EverySingleByteHasTheCharacterThatWindowsShows) {
+TEST(Code_Page_932, EverySingleByteHasTheCharacterThatWindowsShows) {
   const struct {
-    int byte;
-    const char* utf8;
+    int Byte;
+    const char* Utf8;
   } cases[] = {
       {0x5C, "\\"},     {0x7E, "~"},      {0x80, "\xC2\x80"}, {0x81, ""}, {0x9F, ""},       {0xA0, "\u00A0"},
       {0xA1, "\uFF61"}, {0xDF, "\uFF9F"}, {0xE0, ""},         {0xFC, ""}, {0xFD, "\uF8F1"}, {0xFF, "\uF8F3"},
@@ -21,7 +21,7 @@ TEST(CodePage932, EverySingleByteHasTheCharacterThatWindowsShows) {
   EXPECT_EQ(Cp932_Character(0xA5), kCp932Dot);
 }
 
-TEST(CodePage932, DecodesWholeTexts) {
+TEST(Code_Page_932, DecodesWholeTexts) {
   const std::pair<const char*, const char*> cases[] = {
       {"\x93\xFA\x96\x7B\x8C\xEA 24C02\r\n", "日本語 24C02\r\n"},
       {"\x83\x5C\x83\x7C", "ソポ"},              // Trail bytes that look like ASCII.

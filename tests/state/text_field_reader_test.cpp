@@ -10,7 +10,7 @@ namespace {
 
 using Fields = std::vector<std::string>;
 
-TEST(TextFieldReader, QuotesHoldAFieldTogetherWhereTheyAreHonoured) {
+TEST(Text_Field_Reader_Test, QuotesHoldAFieldTogetherWhereTheyAreHonoured) {
   const auto fields = [](std::string_view text, Quotes quotes) {
     Fields all;
     for (Text_Field_Reader reader(text, quotes); !reader.At_End();) all.emplace_back(reader.Next());
@@ -34,7 +34,7 @@ TEST(TextFieldReader, QuotesHoldAFieldTogetherWhereTheyAreHonoured) {
   }
 }
 
-TEST(TextFieldReader, TellsTheLineOnWhichAFieldBegan) {
+TEST(Text_Field_Reader_Test, TellsTheLineOnWhichAFieldBegan) {
   Text_Field_Reader reader("a,b\r\n\rc\n\"d\r\ne\"\nf", Quotes::Honoured);
   for (const int line : {1, 1, 2, 3, 4, 6}) {
     reader.Next();

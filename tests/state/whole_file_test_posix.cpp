@@ -35,12 +35,13 @@ void Limit_Files(rlim_t bytes) {
   setrlimit(RLIMIT_FSIZE, &limit);
 }
 
-struct WholeFile : testing::Test {
+class Whole_File : public testing::Test {
+ protected:
   const Temporary_Folder folder;
   const std::string file = folder / "a.hex";
 };
 
-TEST_F(WholeFile, ReadsNothingButRegularFiles) {
+TEST_F(Whole_File, ReadsNothingButRegularFiles) {
   ASSERT_EQ(mkfifo((folder / "pipe").c_str(), 0666), 0);
   Put_Content(folder / "vast", "");
   fs::resize_file(folder / "vast", std::uintmax_t{1} << 30);
@@ -49,7 +50,7 @@ TEST_F(WholeFile, ReadsNothingButRegularFiles) {
     EXPECT_EQ(Read_Whole_File(path), std::nullopt) << path;
 }
 
-TEST_F(WholeFile, ANewFileFollowsTheUmaskAndAReplacedOneKeepsItsMode) {
+TEST_F(Whole_File, ANewFileFollowsTheUmaskAndAReplacedOneKeepsItsMode) {
   const mode_t old_mask = umask(027);
   for (const unsigned mode : {0640u, 0606u}) {
     EXPECT_EQ(Write_Whole_File(file, "1"), std::nullopt);
@@ -59,7 +60,7 @@ TEST_F(WholeFile, ANewFileFollowsTheUmaskAndAReplacedOneKeepsItsMode) {
   umask(old_mask);
 }
 
-TEST_F(WholeFile, ALinkStaysAndItsGoalIsWritten) {
+TEST_F(Whole_File, ALinkStaysAndItsGoalIsWritten) {
   fs::create_directory(folder / "below");
   fs::create_symlink("below/second", folder / "first");
   fs::create_symlink("file", folder / "below/second");
@@ -72,7 +73,7 @@ TEST_F(WholeFile, ALinkStaysAndItsGoalIsWritten) {
   EXPECT_NE(Write_Whole_File(folder / "ring", "x"), std::nullopt);
 }
 
-TEST_F(WholeFile, RefusesWhatIsNoRegularFileAndTellsWhy) {
+TEST_F(Whole_File, RefusesWhatIsNoRegularFileAndTellsWhy) {
   ASSERT_EQ(mkfifo((folder / "pipe").c_str(), 0666), 0);
   Put_Content(file, "old");
   const std::pair<std::string, const char*> cases[] = {
@@ -87,7 +88,7 @@ TEST_F(WholeFile, RefusesWhatIsNoRegularFileAndTellsWhy) {
   EXPECT_NE(other.find(std::strerror(ENAMETOOLONG)), other.npos) << other;
 }
 
-TEST_F(WholeFile, AFullDiskLeavesTheOldFileAndNothingBesideIt) {
+TEST_F(Whole_File, AFullDiskLeavesTheOldFileAndNothingBesideIt) {
   Put_Content(file, "old");
   const auto handler =
       std::signal(SIGXFSZ, SIG_IGN);  // A write then takes what fits, and the next one fails.
@@ -100,7 +101,7 @@ TEST_F(WholeFile, AFullDiskLeavesTheOldFileAndNothingBesideIt) {
   EXPECT_EQ(folder.Entries(), 1);
 }
 
-TEST_F(WholeFile, AProcessKilledInTheMidstLeavesTheOldFile) {
+TEST_F(Whole_File, AProcessKilledInTheMidstLeavesTheOldFile) {
   Put_Content(file, "old");
   for (const rlim_t at : {0u, 1u, 5000u}) {
     const pid_t child = fork();
@@ -120,7 +121,7 @@ TEST_F(WholeFile, AProcessKilledInTheMidstLeavesTheOldFile) {
     EXPECT_TRUE(left.path() == file || left.path().filename().string().starts_with(".wrenbit-"));
 }
 
-TEST_F(WholeFile, RefusesAFileOrFolderThatTheUserMayNotWrite) {
+TEST_F(Whole_File, RefusesAFileOrFolderThatTheUserMayNotWrite) {
   const Plain_User plain;
   if (!plain) GTEST_SKIP() << "root can't become a plain user here";
   Put_Content(file, "old");

@@ -14,7 +14,8 @@
 namespace wrenbit {
 namespace {
 
-struct Port_Window : testing::Test {
+class Port_Window : public testing::Test {
+ protected:
   Test_Bench bench;
 };
 

@@ -18,7 +18,8 @@
 namespace wrenbit {
 namespace {
 
-struct Main_Window : testing::Test {
+class Main_Window : public testing::Test {
+ protected:
   Chip_Bench bench{"24C00", "5.00"};
 };
 
