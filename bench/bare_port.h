@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "conversation.h"
+#include "bench/conversation.h"
 
 namespace bench {
 

@@ -1,3 +1,5 @@
+#include "bench/bare_port.h"
+
 #include <fcntl.h>
 #include <poll.h>
 #include <unistd.h>
@@ -9,9 +11,8 @@
 #include <stdexcept>
 #include <vector>
 
-#include "bare_port.h"
-#include "conversation.h"
-#include "measure.h"
+#include "bench/conversation.h"
+#include "bench/measure.h"
 
 namespace bench {
 namespace {

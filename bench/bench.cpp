@@ -7,16 +7,16 @@
 #include <stdexcept>
 #include <string>
 
-#include "conversions.h"
-#include "file_costs.h"
-#include "machine.h"
-#include "program.h"
-#include "report.h"
-#include "temporary_folder.h"
-#include "transfers.h"
-#include "whole_file.h"
-#include "whole_programs.h"
-#include "window_costs.h"
+#include "bench/conversions.h"
+#include "bench/file_costs.h"
+#include "bench/machine.h"
+#include "bench/report.h"
+#include "bench/temporary_folder.h"
+#include "bench/transfers.h"
+#include "bench/whole_programs.h"
+#include "bench/window_costs.h"
+#include "core/state/whole_file.h"
+#include "shell/qt/program.h"
 
 namespace {
 

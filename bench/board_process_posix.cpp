@@ -1,10 +1,11 @@
+#include "bench/board_process.h"
+
 #include <signal.h>
 
 #include <QRegularExpression>
 #include <stdexcept>
 
-#include "board_process.h"
-#include "process.h"
+#include "bench/process.h"
 
 namespace bench {
 namespace {

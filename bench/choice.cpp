@@ -1,9 +1,9 @@
-#include "choice.h"
+#include "bench/choice.h"
 
 #include <stdexcept>
 
-#include "frm_main.h"
-#include "platform.h"
+#include "core/state/platform.h"
+#include "shell/controls/frm_main.h"
 
 namespace bench {
 

@@ -1,4 +1,4 @@
-#include "conversions.h"
+#include "bench/conversions.h"
 
 #include <QRegularExpression>
 #include <QStandardPaths>
@@ -8,15 +8,15 @@
 #include <string>
 #include <vector>
 
-#include "choice.h"
-#include "image_buffer.h"
-#include "intel_hex.h"
-#include "median.h"
-#include "plain_file.h"
-#include "process.h"
-#include "state.h"
-#include "temporary_folder.h"
-#include "whole_file.h"
+#include "bench/choice.h"
+#include "bench/median.h"
+#include "bench/plain_file.h"
+#include "bench/process.h"
+#include "bench/temporary_folder.h"
+#include "core/state/state.h"
+#include "core/state/whole_file.h"
+#include "image/image_buffer.h"
+#include "image/intel_hex.h"
 
 namespace bench {
 namespace {

@@ -1,7 +1,7 @@
 // Intel HEX to binary and back, beside tools that do the same.
 #pragma once
 
-#include "report.h"
+#include "bench/report.h"
 
 namespace bench {
 

@@ -2,7 +2,7 @@
 #include <QApplication>
 #include <QLabel>
 
-#include "shown_window.h"
+#include "bench/shown_window.h"
 
 int main(int argc, char** argv) {
   QApplication application(argc, argv);

@@ -1,4 +1,4 @@
-#include "file_costs.h"
+#include "bench/file_costs.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -7,14 +7,14 @@
 #include <string>
 #include <vector>
 
-#include "choice.h"
-#include "image_buffer.h"
-#include "intel_hex.h"
-#include "pairs.h"
-#include "plain_file.h"
-#include "state.h"
-#include "temporary_folder.h"
-#include "whole_file.h"
+#include "bench/choice.h"
+#include "bench/pairs.h"
+#include "bench/plain_file.h"
+#include "bench/temporary_folder.h"
+#include "core/state/state.h"
+#include "core/state/whole_file.h"
+#include "image/image_buffer.h"
+#include "image/intel_hex.h"
 
 namespace bench {
 namespace {

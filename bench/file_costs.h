@@ -1,7 +1,7 @@
 // What loading and saving cost beside the bare movement of the same bytes.
 #pragma once
 
-#include "report.h"
+#include "bench/report.h"
 
 namespace bench {
 

@@ -5,9 +5,9 @@
 #include <stdexcept>
 #include <string>
 
-#include "intel_hex.h"
-#include "state.h"
-#include "whole_file.h"
+#include "core/state/state.h"
+#include "core/state/whole_file.h"
+#include "image/intel_hex.h"
 
 int main(int argc, char** argv) try {
   if (argc < 3) return 2;

@@ -1,11 +1,11 @@
+#include "bench/machine.h"
+
 #include <QDate>
 #include <QFile>
 #include <QGuiApplication>
 #include <QRegularExpression>
 #include <QSysInfo>
 #include <QThread>
-
-#include "machine.h"
 
 namespace bench {
 

@@ -1,6 +1,6 @@
-#include <time.h>
+#include "bench/measure.h"
 
-#include "measure.h"
+#include <time.h>
 
 namespace bench {
 namespace {

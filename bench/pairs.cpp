@@ -1,12 +1,12 @@
-#include "pairs.h"
+#include "bench/pairs.h"
 
 #include <benchmark/benchmark.h>
 
 #include <cstddef>
 #include <map>
 
-#include "choice.h"
-#include "median.h"
+#include "bench/choice.h"
+#include "bench/median.h"
 
 namespace bench {
 namespace {

@@ -1,7 +1,7 @@
+#include "bench/peak_memory.h"
+
 #include <fstream>
 #include <string>
-
-#include "peak_memory.h"
 
 namespace bench {
 

@@ -1,11 +1,11 @@
+#include "bench/plain_file.h"
+
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <cstddef>
 #include <stdexcept>
-
-#include "plain_file.h"
 
 namespace bench {
 

@@ -1,10 +1,10 @@
-#include "process.h"
+#include "bench/process.h"
 
 #include <QCoreApplication>
 #include <QProcess>
 #include <stdexcept>
 
-#include "measure.h"
+#include "bench/measure.h"
 
 namespace bench {
 

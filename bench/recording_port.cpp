@@ -1,7 +1,7 @@
-#include "recording_port.h"
+#include "bench/recording_port.h"
 
-#include "mscomm.h"
-#include "program.h"
+#include "link/mscomm.h"
+#include "shell/qt/program.h"
 
 namespace bench {
 

@@ -8,10 +8,10 @@
 #include <string>
 #include <vector>
 
-#include "com_ports.h"
-#include "conversation.h"
-#include "mscomm.h"
-#include "qt_serial.h"
+#include "bench/conversation.h"
+#include "link/com_ports.h"
+#include "link/mscomm.h"
+#include "shell/qt/seams/qt_serial.h"
 
 namespace bench {
 

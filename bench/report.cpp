@@ -1,4 +1,4 @@
-#include "report.h"
+#include "bench/report.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -10,7 +10,7 @@
 #include <iostream>
 #include <utility>
 
-#include "utf8_text.h"
+#include "core/state/utf8_text.h"
 
 namespace bench {
 namespace {

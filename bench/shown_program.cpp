@@ -1,14 +1,14 @@
 // Wrenbit up to its window; with the words "largest FILE" it also takes in an image of the largest chip,
 // saves it there, loads it again and has it painted.
-#include "choice.h"
-#include "form_view.h"
-#include "hex_grid.h"
-#include "image_buffer.h"
-#include "intel_hex.h"
-#include "program.h"
-#include "shown_window.h"
-#include "state.h"
-#include "whole_file.h"
+#include "bench/choice.h"
+#include "bench/shown_window.h"
+#include "core/state/state.h"
+#include "core/state/whole_file.h"
+#include "editor/hex_grid.h"
+#include "image/image_buffer.h"
+#include "image/intel_hex.h"
+#include "shell/qt/program.h"
+#include "shell/qt/views/form_view.h"
 
 int main(int argc, char** argv) {
   wrenbit::Program program(argc, argv);

@@ -7,7 +7,7 @@
 #include <cstdlib>
 #include <iostream>
 
-#include "peak_memory.h"
+#include "bench/peak_memory.h"
 
 namespace bench {
 

@@ -1,4 +1,4 @@
-#include "transfers.h"
+#include "bench/transfers.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -8,16 +8,16 @@
 #include <string>
 #include <vector>
 
-#include "bare_port.h"
-#include "board_process.h"
-#include "choice.h"
-#include "frm_main.h"
-#include "measure.h"
-#include "median.h"
-#include "plain_file.h"
-#include "recording_port.h"
-#include "state.h"
-#include "temporary_folder.h"
+#include "bench/bare_port.h"
+#include "bench/board_process.h"
+#include "bench/choice.h"
+#include "bench/measure.h"
+#include "bench/median.h"
+#include "bench/plain_file.h"
+#include "bench/recording_port.h"
+#include "bench/temporary_folder.h"
+#include "core/state/state.h"
+#include "shell/controls/frm_main.h"
 
 namespace bench {
 namespace {

@@ -1,7 +1,7 @@
 // Transfers through the program's own commands, with the window shown and a board in a process of its own.
 #pragma once
 
-#include "report.h"
+#include "bench/report.h"
 
 namespace bench {
 

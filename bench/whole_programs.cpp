@@ -1,11 +1,11 @@
-#include "whole_programs.h"
+#include "bench/whole_programs.h"
 
 #include <optional>
 #include <stdexcept>
 
-#include "median.h"
-#include "process.h"
-#include "temporary_folder.h"
+#include "bench/median.h"
+#include "bench/process.h"
+#include "bench/temporary_folder.h"
 
 namespace bench {
 namespace {

@@ -1,7 +1,7 @@
 // Start and memory of the whole program beside an empty Qt window.
 #pragma once
 
-#include "report.h"
+#include "bench/report.h"
 
 namespace bench {
 

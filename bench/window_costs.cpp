@@ -1,4 +1,4 @@
-#include "window_costs.h"
+#include "bench/window_costs.h"
 
 #include <QApplication>
 #include <QKeyEvent>
@@ -9,14 +9,14 @@
 #include <string>
 #include <vector>
 
-#include "choice.h"
-#include "form_view.h"
-#include "frm_main.h"
-#include "grid_view.h"
-#include "hex_grid.h"
-#include "image_buffer.h"
-#include "pairs.h"
-#include "state.h"
+#include "bench/choice.h"
+#include "bench/pairs.h"
+#include "core/state/state.h"
+#include "editor/hex_grid.h"
+#include "image/image_buffer.h"
+#include "shell/controls/frm_main.h"
+#include "shell/qt/views/form_view.h"
+#include "shell/qt/views/grid_view.h"
 
 namespace bench {
 namespace {

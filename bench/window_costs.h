@@ -1,8 +1,8 @@
 // What the window makes the user wait for where no wire is involved.
 #pragma once
 
-#include "program.h"
-#include "report.h"
+#include "bench/report.h"
+#include "shell/qt/program.h"
 
 namespace bench {
 

@@ -4,10 +4,10 @@
 #include <functional>
 #include <string>
 
-#include "descriptor.h"
-#include "typed_lines.h"
-#include "wire_end.h"
-#include "wire_schedule.h"
+#include "board/descriptor.h"
+#include "board/typed_lines.h"
+#include "board/wire_end.h"
+#include "board/wire_schedule.h"
 
 namespace board {
 

@@ -1,3 +1,5 @@
+#include "board/board_terminal.h"
+
 #include <fcntl.h>
 #include <poll.h>
 #include <signal.h>
@@ -16,8 +18,7 @@
 #include <deque>
 #include <optional>
 
-#include "board_terminal.h"
-#include "descriptor.h"
+#include "board/descriptor.h"
 
 namespace board {
 

@@ -1,4 +1,4 @@
-#include "chip_socket.h"
+#include "board/chip_socket.h"
 
 #include <utility>
 

@@ -4,7 +4,7 @@
 #include <filesystem>
 #include <string>
 
-#include "descriptor.h"
+#include "board/descriptor.h"
 
 namespace board {
 

@@ -1,3 +1,5 @@
+#include "board/com_port_link.h"
+
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/stat.h>
@@ -9,8 +11,6 @@
 #include <stdexcept>
 #include <system_error>
 #include <thread>
-
-#include "com_port_link.h"
 
 namespace board {
 

@@ -1,9 +1,9 @@
+#include "board/descriptor.h"
+
 #include <unistd.h>
 
 #include <cerrno>
 #include <system_error>
-
-#include "descriptor.h"
 
 namespace board {
 

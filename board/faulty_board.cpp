@@ -1,4 +1,4 @@
-#include "faulty_board.h"
+#include "board/faulty_board.h"
 
 namespace board {
 

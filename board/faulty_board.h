@@ -3,7 +3,7 @@
 
 #include <cstdint>
 
-#include "wire_end.h"
+#include "board/wire_end.h"
 
 namespace board {
 

@@ -5,8 +5,8 @@
 #include <cstdint>
 #include <string>
 
-#include "cell_store.h"
-#include "descriptor.h"
+#include "board/cell_store.h"
+#include "board/descriptor.h"
 
 namespace board {
 

@@ -1,3 +1,5 @@
+#include "board/image_store.h"
+
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -6,8 +8,6 @@
 #include <cstddef>
 #include <cstdint>
 #include <stdexcept>
-
-#include "image_store.h"
 
 namespace board {
 

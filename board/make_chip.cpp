@@ -1,11 +1,11 @@
-#include "make_chip.h"
+#include "board/make_chip.h"
 
 #include <algorithm>
 #include <span>
 #include <stdexcept>
 
-#include "three_wire_chip.h"
-#include "two_wire_chip.h"
+#include "board/three_wire_chip.h"
+#include "board/two_wire_chip.h"
 
 namespace board {
 

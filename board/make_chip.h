@@ -7,10 +7,10 @@
 #include <string_view>
 #include <vector>
 
-#include "cell_store.h"
-#include "chip_socket.h"
-#include "three_wire_parts.h"
-#include "two_wire_parts.h"
+#include "board/cell_store.h"
+#include "board/chip_socket.h"
+#include "board/three_wire_parts.h"
+#include "board/two_wire_parts.h"
 
 namespace board {
 

@@ -6,7 +6,7 @@
 //   port C                             CS
 //
 // All other pins hang free.
-#include "programmer_board.h"
+#include "board/programmer_board.h"
 
 #include <algorithm>
 #include <charconv>

@@ -11,8 +11,8 @@
 #include <utility>
 #include <vector>
 
-#include "chip_socket.h"
-#include "wire_end.h"
+#include "board/chip_socket.h"
+#include "board/wire_end.h"
 
 namespace board {
 

@@ -13,7 +13,7 @@
 // All but READ happen at the fall of CS. Sources: Atmel's data sheets of AT93C46, AT93C66 and AT93C86. Where
 // they are silent the model is strict: a frame with a bit too many does nothing, nor does one that begins in
 // the write cycle.
-#include "three_wire_chip.h"
+#include "board/three_wire_chip.h"
 
 #include <utility>
 

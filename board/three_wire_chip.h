@@ -4,9 +4,9 @@
 #include <cstddef>
 #include <cstdint>
 
-#include "cell_store.h"
-#include "chip_socket.h"
-#include "three_wire_parts.h"
+#include "board/cell_store.h"
+#include "board/chip_socket.h"
+#include "board/three_wire_parts.h"
 
 namespace board {
 

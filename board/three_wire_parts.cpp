@@ -1,6 +1,6 @@
 // Three-wire EEPROMs with pin ORG grounded. Sources: Atmel's data sheets of AT93C46, AT93C66 and AT93C86.
 // Their write cycle takes 3 ms as a rule, and 10 ms at most.
-#include "three_wire_parts.h"
+#include "board/three_wire_parts.h"
 
 namespace board {
 

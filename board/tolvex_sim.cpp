@@ -12,14 +12,14 @@
 #include <utility>
 #include <vector>
 
-#include "board_terminal.h"
-#include "cell_store.h"
-#include "com_port_link.h"
-#include "image_store.h"
-#include "make_chip.h"
-#include "programmer_board.h"
-#include "typed_lines.h"
-#include "wire_schedule.h"
+#include "board/board_terminal.h"
+#include "board/cell_store.h"
+#include "board/com_port_link.h"
+#include "board/image_store.h"
+#include "board/make_chip.h"
+#include "board/programmer_board.h"
+#include "board/typed_lines.h"
+#include "board/wire_schedule.h"
 
 namespace {
 

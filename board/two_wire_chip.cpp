@@ -1,4 +1,4 @@
-#include "two_wire_chip.h"
+#include "board/two_wire_chip.h"
 
 #include <utility>
 

@@ -6,9 +6,9 @@
 #include <map>
 #include <optional>
 
-#include "cell_store.h"
-#include "chip_socket.h"
-#include "two_wire_parts.h"
+#include "board/cell_store.h"
+#include "board/chip_socket.h"
+#include "board/two_wire_parts.h"
 
 namespace board {
 

@@ -14,7 +14,7 @@
 // Microchip's write time. The 24C1024 has the 24LC1026's page, the smallest at its size, and reads on across
 // all its cells as the others do. Sources: data sheets of Atmel (AT24Cxx, AT24C1024), Microchip (24xx00,
 // 24LC01B to 24LC512, 24LC1026), ST (M24Cxx), onsemi (CAT24Cxx) and Rohm (BR24Txx).
-#include "two_wire_parts.h"
+#include "board/two_wire_parts.h"
 
 namespace board {
 

@@ -1,3 +1,5 @@
+#include "board/typed_lines.h"
+
 #include <fcntl.h>
 #include <signal.h>
 #include <unistd.h>
@@ -6,8 +8,6 @@
 #include <cerrno>
 #include <cstddef>
 #include <utility>
-
-#include "typed_lines.h"
 
 namespace board {
 

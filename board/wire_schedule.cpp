@@ -1,4 +1,4 @@
-#include "wire_schedule.h"
+#include "board/wire_schedule.h"
 
 #include <algorithm>
 

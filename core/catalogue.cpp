@@ -1,16 +1,16 @@
-#include "catalogue.h"
+#include "core/catalogue.h"
 
 #include <cstddef>
 #include <optional>
 #include <utility>
 
-#include "catalogue_text.h"
-#include "code_page_932.h"
-#include "settings.h"
-#include "state.h"
-#include "utf8_text.h"
-#include "whole_file.h"
-#include "windows.h"
+#include "core/catalogue_text.h"
+#include "core/state/code_page_932.h"
+#include "core/state/settings.h"
+#include "core/state/state.h"
+#include "core/state/utf8_text.h"
+#include "core/state/whole_file.h"
+#include "shell/controls/windows.h"
 
 namespace wrenbit {
 namespace {

@@ -1,12 +1,12 @@
-#include "catalogue_text.h"
+#include "core/catalogue_text.h"
 
 #include <algorithm>
 #include <utility>
 
-#include "c24_block.h"
-#include "number_text.h"
-#include "text_field_reader.h"
-#include "utf8_text.h"
+#include "core/state/number_text.h"
+#include "core/state/text_field_reader.h"
+#include "core/state/utf8_text.h"
+#include "engines/c24_block.h"
 
 namespace wrenbit {
 namespace {

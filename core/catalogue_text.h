@@ -15,7 +15,7 @@
 #include <string_view>
 #include <vector>
 
-#include "state.h"
+#include "core/state/state.h"
 
 namespace wrenbit {
 

@@ -1,17 +1,17 @@
-#include "device_selection.h"
+#include "core/device_selection.h"
 
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <string>
 
-#include "block_transfer.h"
-#include "catalogue_text.h"
-#include "frm_main.h"
-#include "hex_grid.h"
-#include "image_buffer.h"
-#include "settings.h"
-#include "state.h"
+#include "core/catalogue_text.h"
+#include "core/state/settings.h"
+#include "core/state/state.h"
+#include "editor/hex_grid.h"
+#include "engines/block_transfer.h"
+#include "image/image_buffer.h"
+#include "shell/controls/frm_main.h"
 
 namespace wrenbit {
 namespace {

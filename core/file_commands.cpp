@@ -1,17 +1,17 @@
-#include "file_commands.h"
+#include "core/file_commands.h"
 
 #include <cstddef>
 #include <optional>
 
-#include "app.h"
-#include "frm_main.h"
-#include "hex_grid.h"
-#include "image_buffer.h"
-#include "intel_hex.h"
-#include "platform.h"
-#include "settings.h"
-#include "state.h"
-#include "whole_file.h"
+#include "core/state/app.h"
+#include "core/state/platform.h"
+#include "core/state/settings.h"
+#include "core/state/state.h"
+#include "core/state/whole_file.h"
+#include "editor/hex_grid.h"
+#include "image/image_buffer.h"
+#include "image/intel_hex.h"
+#include "shell/controls/frm_main.h"
 
 namespace wrenbit {
 namespace {

@@ -1,4 +1,4 @@
-#include "start.h"
+#include "core/start.h"
 
 #include <cstddef>
 #include <filesystem>
@@ -6,13 +6,13 @@
 #include <system_error>
 #include <vector>
 
-#include "app.h"
-#include "catalogue.h"
-#include "cell_selection.h"
-#include "platform.h"
-#include "state.h"
-#include "whole_file.h"
-#include "windows.h"
+#include "core/catalogue.h"
+#include "core/state/app.h"
+#include "core/state/platform.h"
+#include "core/state/state.h"
+#include "core/state/whole_file.h"
+#include "editor/cell_selection.h"
+#include "shell/controls/windows.h"
 
 namespace wrenbit {
 namespace {

@@ -1,19 +1,19 @@
-#include "transfer_commands.h"
+#include "core/transfer_commands.h"
 
 #include <initializer_list>
 
-#include "c24_block.h"
-#include "c24_byte.h"
-#include "c93_block.h"
-#include "c93_byte.h"
-#include "cell_selection.h"
-#include "failure.h"
-#include "frm_main.h"
-#include "handshake.h"
-#include "hex_grid.h"
-#include "image_buffer.h"
-#include "mscomm.h"
-#include "state.h"
+#include "core/state/state.h"
+#include "editor/cell_selection.h"
+#include "editor/hex_grid.h"
+#include "engines/c24_block.h"
+#include "engines/c24_byte.h"
+#include "engines/c93_block.h"
+#include "engines/c93_byte.h"
+#include "image/image_buffer.h"
+#include "link/failure.h"
+#include "link/handshake.h"
+#include "link/mscomm.h"
+#include "shell/controls/frm_main.h"
 
 namespace wrenbit {
 namespace {

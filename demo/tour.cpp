@@ -24,12 +24,12 @@
 #include <stdexcept>
 #include <string>
 
-#include "form_view.h"
-#include "grid_view.h"
-#include "mscomm.h"
-#include "program.h"
-#include "state.h"
-#include "windows.h"
+#include "core/state/state.h"
+#include "link/mscomm.h"
+#include "shell/controls/windows.h"
+#include "shell/qt/program.h"
+#include "shell/qt/views/form_view.h"
+#include "shell/qt/views/grid_view.h"
 
 namespace wrenbit {
 namespace {

@@ -1,7 +1,7 @@
-#include "byte_texts.h"
+#include "editor/byte_texts.h"
 
-#include "code_page_932.h"
-#include "hex_text.h"
+#include "core/state/code_page_932.h"
+#include "image/hex_text.h"
 
 namespace wrenbit {
 namespace {

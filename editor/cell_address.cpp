@@ -1,9 +1,9 @@
-#include "cell_address.h"
+#include "editor/cell_address.h"
 
 #include <cstddef>
 
-#include "frm_main.h"
-#include "state.h"
+#include "core/state/state.h"
+#include "shell/controls/frm_main.h"
 
 namespace wrenbit {
 

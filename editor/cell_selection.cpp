@@ -1,14 +1,14 @@
-#include "cell_selection.h"
+#include "editor/cell_selection.h"
 
 #include <cstddef>
 #include <cstdint>
 #include <string>
 
-#include "byte_texts.h"
-#include "cell_address.h"
-#include "edit_panel.h"
-#include "frm_main.h"
-#include "state.h"
+#include "core/state/state.h"
+#include "editor/byte_texts.h"
+#include "editor/cell_address.h"
+#include "editor/edit_panel.h"
+#include "shell/controls/frm_main.h"
 
 namespace wrenbit {
 

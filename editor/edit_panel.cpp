@@ -1,19 +1,19 @@
-#include "edit_panel.h"
+#include "editor/edit_panel.h"
 
 #include <cmath>
 #include <cstddef>
 #include <optional>
 #include <utility>
 
-#include "byte_texts.h"
-#include "cell_address.h"
-#include "code_page_932.h"
-#include "frm_main.h"
-#include "hex_text.h"
-#include "image_buffer.h"
-#include "number_text.h"
-#include "state.h"
-#include "utf8_text.h"
+#include "core/state/code_page_932.h"
+#include "core/state/number_text.h"
+#include "core/state/state.h"
+#include "core/state/utf8_text.h"
+#include "editor/byte_texts.h"
+#include "editor/cell_address.h"
+#include "image/hex_text.h"
+#include "image/image_buffer.h"
+#include "shell/controls/frm_main.h"
 
 namespace wrenbit {
 namespace {

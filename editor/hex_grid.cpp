@@ -1,4 +1,4 @@
-#include "hex_grid.h"
+#include "editor/hex_grid.h"
 
 #include <algorithm>
 #include <array>
@@ -10,14 +10,14 @@
 #include <string>
 #include <string_view>
 
-#include "byte_texts.h"
-#include "cell_address.h"
-#include "cell_selection.h"
-#include "frm_main.h"
-#include "hex_text.h"
-#include "image_buffer.h"
-#include "platform.h"
-#include "state.h"
+#include "core/state/platform.h"
+#include "core/state/state.h"
+#include "editor/byte_texts.h"
+#include "editor/cell_address.h"
+#include "editor/cell_selection.h"
+#include "image/hex_text.h"
+#include "image/image_buffer.h"
+#include "shell/controls/frm_main.h"
 
 namespace wrenbit {
 namespace {

@@ -1,11 +1,11 @@
-#include "block_transfer.h"
+#include "engines/block_transfer.h"
 
 #include <algorithm>
 #include <cmath>
 
-#include "frm_main.h"
-#include "platform.h"
-#include "state.h"
+#include "core/state/platform.h"
+#include "core/state/state.h"
+#include "shell/controls/frm_main.h"
 
 namespace wrenbit {
 

@@ -1,13 +1,13 @@
-#include "byte_transfer.h"
+#include "engines/byte_transfer.h"
 
 #include <cstddef>
 
-#include "byte_texts.h"
-#include "cell_address.h"
-#include "cell_selection.h"
-#include "failure.h"
-#include "frm_main.h"
-#include "state.h"
+#include "core/state/state.h"
+#include "editor/byte_texts.h"
+#include "editor/cell_address.h"
+#include "editor/cell_selection.h"
+#include "link/failure.h"
+#include "shell/controls/frm_main.h"
 
 namespace wrenbit {
 

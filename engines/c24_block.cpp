@@ -1,19 +1,19 @@
-#include "c24_block.h"
+#include "engines/c24_block.h"
 
 #include <bit>
 #include <cstddef>
 #include <cstdint>
 
-#include "accelerators.h"
-#include "block_transfer.h"
-#include "c24_bus.h"
-#include "c24_control.h"
-#include "failure.h"
-#include "handshake.h"
-#include "link.h"
-#include "platform.h"
-#include "state.h"
-#include "verdict.h"
+#include "core/state/platform.h"
+#include "core/state/state.h"
+#include "engines/block_transfer.h"
+#include "engines/c24_bus.h"
+#include "engines/c24_control.h"
+#include "engines/verdict.h"
+#include "link/accelerators.h"
+#include "link/failure.h"
+#include "link/handshake.h"
+#include "link/link.h"
 
 namespace wrenbit {
 namespace {

@@ -1,11 +1,11 @@
-#include "c24_bus.h"
+#include "engines/c24_bus.h"
 
-#include "accelerators.h"
-#include "failure.h"
-#include "frm_main.h"
-#include "link.h"
-#include "power_sequence.h"
-#include "state.h"
+#include "core/state/state.h"
+#include "engines/power_sequence.h"
+#include "link/accelerators.h"
+#include "link/failure.h"
+#include "link/link.h"
+#include "shell/controls/frm_main.h"
 
 namespace wrenbit {
 namespace {

@@ -1,15 +1,15 @@
-#include "c24_byte.h"
+#include "engines/c24_byte.h"
 
 #include <cstddef>
 #include <cstdint>
 
-#include "byte_transfer.h"
-#include "c24_bus.h"
-#include "c24_control.h"
-#include "cell_address.h"
-#include "handshake.h"
-#include "state.h"
-#include "verdict.h"
+#include "core/state/state.h"
+#include "editor/cell_address.h"
+#include "engines/byte_transfer.h"
+#include "engines/c24_bus.h"
+#include "engines/c24_control.h"
+#include "engines/verdict.h"
+#include "link/handshake.h"
 
 namespace wrenbit {
 namespace {

@@ -1,10 +1,10 @@
-#include "c24_control.h"
+#include "engines/c24_control.h"
 
-#include "c24_bus.h"
-#include "failure.h"
-#include "frm_main.h"
-#include "image_buffer.h"
-#include "state.h"
+#include "core/state/state.h"
+#include "engines/c24_bus.h"
+#include "image/image_buffer.h"
+#include "link/failure.h"
+#include "shell/controls/frm_main.h"
 
 namespace wrenbit {
 

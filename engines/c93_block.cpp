@@ -1,17 +1,17 @@
-#include "c93_block.h"
+#include "engines/c93_block.h"
 
 #include <cstddef>
 #include <cstdint>
 
-#include "accelerators.h"
-#include "block_transfer.h"
-#include "c93_bus.h"
-#include "c93_frame.h"
-#include "handshake.h"
-#include "link.h"
-#include "platform.h"
-#include "state.h"
-#include "verdict.h"
+#include "core/state/platform.h"
+#include "core/state/state.h"
+#include "engines/block_transfer.h"
+#include "engines/c93_bus.h"
+#include "engines/c93_frame.h"
+#include "engines/verdict.h"
+#include "link/accelerators.h"
+#include "link/handshake.h"
+#include "link/link.h"
 
 namespace wrenbit {
 namespace {

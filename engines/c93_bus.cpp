@@ -1,9 +1,9 @@
-#include "c93_bus.h"
+#include "engines/c93_bus.h"
 
-#include "frm_main.h"
-#include "link.h"
-#include "power_sequence.h"
-#include "state.h"
+#include "core/state/state.h"
+#include "engines/power_sequence.h"
+#include "link/link.h"
+#include "shell/controls/frm_main.h"
 
 namespace wrenbit {
 namespace {

@@ -1,16 +1,16 @@
-#include "c93_byte.h"
+#include "engines/c93_byte.h"
 
 #include <cstddef>
 #include <cstdint>
 
-#include "byte_transfer.h"
-#include "c93_bus.h"
-#include "c93_frame.h"
-#include "cell_address.h"
-#include "cell_selection.h"
-#include "handshake.h"
-#include "state.h"
-#include "verdict.h"
+#include "core/state/state.h"
+#include "editor/cell_address.h"
+#include "editor/cell_selection.h"
+#include "engines/byte_transfer.h"
+#include "engines/c93_bus.h"
+#include "engines/c93_frame.h"
+#include "engines/verdict.h"
+#include "link/handshake.h"
 
 namespace wrenbit {
 

@@ -1,9 +1,9 @@
-#include "c93_frame.h"
+#include "engines/c93_frame.h"
 
-#include "c93_bus.h"
-#include "failure.h"
-#include "image_buffer.h"
-#include "state.h"
+#include "core/state/state.h"
+#include "engines/c93_bus.h"
+#include "image/image_buffer.h"
+#include "link/failure.h"
 
 namespace wrenbit {
 namespace {

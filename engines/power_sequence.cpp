@@ -1,9 +1,9 @@
-#include "power_sequence.h"
+#include "engines/power_sequence.h"
 
-#include "frm_main.h"
-#include "link.h"
-#include "mscomm.h"
-#include "state.h"
+#include "core/state/state.h"
+#include "link/link.h"
+#include "link/mscomm.h"
+#include "shell/controls/frm_main.h"
 
 namespace wrenbit {
 namespace {

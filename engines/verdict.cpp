@@ -1,9 +1,9 @@
-#include "verdict.h"
+#include "engines/verdict.h"
 
-#include "failure.h"
-#include "mscomm.h"
-#include "reply_wait.h"
-#include "state.h"
+#include "core/state/state.h"
+#include "link/failure.h"
+#include "link/mscomm.h"
+#include "link/reply_wait.h"
 
 namespace wrenbit {
 

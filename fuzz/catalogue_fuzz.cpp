@@ -7,13 +7,13 @@
 #include <string_view>
 #include <utility>
 
-#include "catalogue.h"
-#include "catalogue_text.h"
-#include "frm_main.h"
-#include "image_buffer.h"
-#include "must_hold.h"
-#include "test_bench.h"
-#include "transfer_commands.h"
+#include "core/catalogue.h"
+#include "core/catalogue_text.h"
+#include "core/transfer_commands.h"
+#include "fuzz/must_hold.h"
+#include "image/image_buffer.h"
+#include "shell/controls/frm_main.h"
+#include "tests/support/test_bench.h"
 
 using namespace wrenbit;
 

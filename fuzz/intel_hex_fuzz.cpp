@@ -5,10 +5,10 @@
 #include <string>
 #include <string_view>
 
-#include "image_buffer.h"
-#include "intel_hex.h"
-#include "must_hold.h"
-#include "state.h"
+#include "core/state/state.h"
+#include "fuzz/must_hold.h"
+#include "image/image_buffer.h"
+#include "image/intel_hex.h"
 
 using namespace wrenbit;
 

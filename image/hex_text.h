@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-#include "utf8_text.h"
+#include "core/state/utf8_text.h"
 
 namespace wrenbit {
 

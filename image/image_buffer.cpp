@@ -1,11 +1,11 @@
-#include "image_buffer.h"
+#include "image/image_buffer.h"
 
 #include <cstddef>
 #include <cstdint>
 #include <numeric>
 
-#include "hex_text.h"
-#include "state.h"
+#include "core/state/state.h"
+#include "image/hex_text.h"
 
 namespace wrenbit {
 namespace {

@@ -6,16 +6,16 @@
 //    7      type, two digits
 //    9      data, two digits a byte
 //   behind  checksum, two digits
-#include "intel_hex.h"
+#include "image/intel_hex.h"
 
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
 
-#include "code_page_932.h"
-#include "hex_text.h"
-#include "state.h"
-#include "text_field_reader.h"
+#include "core/state/code_page_932.h"
+#include "core/state/state.h"
+#include "core/state/text_field_reader.h"
+#include "image/hex_text.h"
 
 namespace wrenbit {
 namespace {

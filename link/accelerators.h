@@ -1,7 +1,7 @@
 // The one threshold among the board's firmware versions.
 #pragma once
 
-#include "state.h"
+#include "core/state/state.h"
 
 namespace wrenbit {
 

@@ -1,4 +1,4 @@
-#include "com_numbers.h"
+#include "link/com_numbers.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -10,7 +10,7 @@
 #include <utility>
 #include <vector>
 
-#include "whole_file.h"
+#include "core/state/whole_file.h"
 
 namespace wrenbit {
 namespace fs = std::filesystem;

@@ -5,7 +5,7 @@
 #include <map>
 #include <optional>
 
-#include "com_ports.h"
+#include "link/com_ports.h"
 
 namespace wrenbit {
 

@@ -1,4 +1,4 @@
-#include "com_ports.h"
+#include "link/com_ports.h"
 
 #include <algorithm>
 #include <cstddef>

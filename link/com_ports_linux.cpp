@@ -1,4 +1,6 @@
 // Serial devices as Linux tells of them under /sys/class/tty.
+#include "link/com_ports.h"
+
 #include <fcntl.h>
 #include <sys/file.h>
 #include <unistd.h>
@@ -8,8 +10,6 @@
 #include <string>
 #include <system_error>
 #include <utility>
-
-#include "com_ports.h"
 
 namespace wrenbit {
 namespace {

@@ -1,7 +1,7 @@
-#include "failure.h"
+#include "link/failure.h"
 
-#include "frm_main.h"
-#include "state.h"
+#include "core/state/state.h"
+#include "shell/controls/frm_main.h"
 
 namespace wrenbit {
 

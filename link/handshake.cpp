@@ -1,4 +1,4 @@
-#include "handshake.h"
+#include "link/handshake.h"
 
 #include <algorithm>
 #include <array>
@@ -10,18 +10,18 @@
 #include <string_view>
 #include <vector>
 
-#include "accelerators.h"
-#include "code_page_932.h"
-#include "com_ports.h"
-#include "failure.h"
-#include "frm_com.h"
-#include "frm_main.h"
-#include "mscomm.h"
-#include "number_text.h"
-#include "platform.h"
-#include "reply_wait.h"
-#include "settings.h"
-#include "state.h"
+#include "core/state/code_page_932.h"
+#include "core/state/number_text.h"
+#include "core/state/platform.h"
+#include "core/state/settings.h"
+#include "core/state/state.h"
+#include "link/accelerators.h"
+#include "link/com_ports.h"
+#include "link/failure.h"
+#include "link/mscomm.h"
+#include "link/reply_wait.h"
+#include "shell/controls/frm_com.h"
+#include "shell/controls/frm_main.h"
 
 namespace wrenbit {
 namespace {

@@ -1,12 +1,12 @@
-#include "link.h"
+#include "link/link.h"
 
 #include <cstddef>
 #include <initializer_list>
 
-#include "mscomm.h"
-#include "platform.h"
-#include "reply_wait.h"
-#include "state.h"
+#include "core/state/platform.h"
+#include "core/state/state.h"
+#include "link/mscomm.h"
+#include "link/reply_wait.h"
 
 namespace wrenbit {
 namespace {

@@ -1,8 +1,8 @@
-#include "mscomm.h"
+#include "link/mscomm.h"
 
 #include <algorithm>
 
-#include "platform.h"
+#include "core/state/platform.h"
 
 namespace wrenbit {
 namespace {

@@ -10,7 +10,7 @@
 #include <string>
 #include <vector>
 
-#include "com_ports.h"
+#include "link/com_ports.h"
 
 namespace wrenbit {
 

@@ -1,10 +1,10 @@
-#include "reply_wait.h"
+#include "link/reply_wait.h"
 
 #include <algorithm>
 
-#include "mscomm.h"
-#include "platform.h"
-#include "state.h"
+#include "core/state/platform.h"
+#include "core/state/state.h"
+#include "link/mscomm.h"
 
 namespace wrenbit {
 namespace {

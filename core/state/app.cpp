@@ -1,4 +1,4 @@
-#include "app.h"
+#include "core/state/app.h"
 
 #include <algorithm>
 

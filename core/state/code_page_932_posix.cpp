@@ -1,7 +1,7 @@
 // The double-byte characters of code page 932, from the system's table.
-#include <iconv.h>
+#include "core/state/code_page_932.h"
 
-#include "code_page_932.h"
+#include <iconv.h>
 
 namespace wrenbit {
 namespace {

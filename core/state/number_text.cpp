@@ -1,4 +1,4 @@
-#include "number_text.h"
+#include "core/state/number_text.h"
 
 #include <charconv>
 #include <cstddef>

@@ -1,6 +1,6 @@
-#include "settings.h"
+#include "core/state/settings.h"
 
-#include "number_text.h"
+#include "core/state/number_text.h"
 
 namespace wrenbit {
 

@@ -1,4 +1,4 @@
-#include "text_field_reader.h"
+#include "core/state/text_field_reader.h"
 
 #include <algorithm>
 #include <array>

@@ -1,4 +1,4 @@
-#include "utf8_text.h"
+#include "core/state/utf8_text.h"
 
 #include <algorithm>
 

@@ -1,4 +1,4 @@
-#include "whole_file.h"
+#include "core/state/whole_file.h"
 
 #include <cstddef>
 #include <cstdint>

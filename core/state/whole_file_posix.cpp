@@ -1,3 +1,5 @@
+#include "core/state/whole_file.h"
+
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -8,8 +10,6 @@
 #include <filesystem>
 #include <random>
 #include <system_error>
-
-#include "whole_file.h"
 
 namespace wrenbit {
 namespace fs = std::filesystem;

@@ -1,6 +1,6 @@
-#include "control.h"
+#include "shell/controls/control.h"
 
-#include "form.h"
+#include "shell/controls/form.h"
 
 namespace wrenbit {
 

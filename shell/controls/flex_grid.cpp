@@ -1,4 +1,4 @@
-#include "flex_grid.h"
+#include "shell/controls/flex_grid.h"
 
 #include <algorithm>
 #include <utility>

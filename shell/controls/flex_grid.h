@@ -12,7 +12,7 @@
 #include <utility>
 #include <vector>
 
-#include "control.h"
+#include "shell/controls/control.h"
 
 namespace wrenbit {
 

@@ -1,4 +1,4 @@
-#include "form.h"
+#include "shell/controls/form.h"
 
 #include <utility>
 

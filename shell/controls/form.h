@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "plain_controls.h"
+#include "shell/controls/plain_controls.h"
 
 namespace wrenbit {
 

@@ -1,7 +1,7 @@
 // The version window as plain data.
 #pragma once
 
-#include "form.h"
+#include "shell/controls/form.h"
 
 namespace wrenbit {
 

@@ -1,8 +1,8 @@
 // The port settings window as plain data.
 #pragma once
 
-#include "form.h"
-#include "lists_and_boxes.h"
+#include "shell/controls/form.h"
+#include "shell/controls/lists_and_boxes.h"
 
 namespace wrenbit {
 

@@ -5,12 +5,12 @@
 #include <cstddef>
 #include <string>
 
-#include "common_dialog.h"
-#include "flex_grid.h"
-#include "form.h"
-#include "lists_and_boxes.h"
-#include "plain_controls.h"
-#include "status_bar.h"
+#include "shell/controls/common_dialog.h"
+#include "shell/controls/flex_grid.h"
+#include "shell/controls/form.h"
+#include "shell/controls/lists_and_boxes.h"
+#include "shell/controls/plain_controls.h"
+#include "shell/controls/status_bar.h"
 
 namespace wrenbit {
 

@@ -1,7 +1,7 @@
 // The splash window as plain data: what stands on the screen while the program gets ready.
 #pragma once
 
-#include "form.h"
+#include "shell/controls/form.h"
 
 namespace wrenbit {
 

@@ -1,9 +1,9 @@
-#include "lists_and_boxes.h"
+#include "shell/controls/lists_and_boxes.h"
 
 #include <algorithm>
 #include <utility>
 
-#include "utf8_text.h"
+#include "core/state/utf8_text.h"
 
 namespace wrenbit {
 

@@ -8,8 +8,8 @@
 #include <string>
 #include <vector>
 
-#include "control.h"
-#include "plain_controls.h"
+#include "shell/controls/control.h"
+#include "shell/controls/plain_controls.h"
 
 namespace wrenbit {
 

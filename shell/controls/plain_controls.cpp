@@ -1,6 +1,6 @@
-#include "plain_controls.h"
+#include "shell/controls/plain_controls.h"
 
-#include "form.h"
+#include "shell/controls/form.h"
 
 namespace wrenbit {
 

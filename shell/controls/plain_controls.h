@@ -7,8 +7,8 @@
 #include <string>
 #include <utility>
 
-#include "control.h"
-#include "picture.h"
+#include "shell/controls/control.h"
+#include "shell/controls/picture.h"
 
 namespace wrenbit {
 

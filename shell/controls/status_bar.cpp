@@ -1,4 +1,4 @@
-#include "status_bar.h"
+#include "shell/controls/status_bar.h"
 
 #include <cstddef>
 #include <utility>

@@ -5,7 +5,7 @@
 #include <cstddef>
 #include <string>
 
-#include "control.h"
+#include "shell/controls/control.h"
 
 namespace wrenbit {
 

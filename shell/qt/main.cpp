@@ -1,4 +1,4 @@
-#include "program.h"
+#include "shell/qt/program.h"
 
 int main(int argc, char** argv) {
   wrenbit::Program program(argc, argv);

@@ -1,24 +1,24 @@
-#include "program.h"
+#include "shell/qt/program.h"
 
 #include <QDir>
 #include <QLibraryInfo>
 #include <QStandardPaths>
 #include <QTranslator>
 
-#include "accessibility.h"
-#include "app.h"
-#include "end_signals.h"
-#include "file_dialog.h"
-#include "instance_lock.h"
-#include "look.h"
-#include "mscomm.h"
-#include "pictures.h"
-#include "platform.h"
-#include "program_style.h"
-#include "settings.h"
-#include "start.h"
-#include "windows.h"
-#include "wiring.h"
+#include "core/start.h"
+#include "core/state/app.h"
+#include "core/state/platform.h"
+#include "core/state/settings.h"
+#include "link/mscomm.h"
+#include "shell/controls/windows.h"
+#include "shell/qt/accessible/accessibility.h"
+#include "shell/qt/drawing/look.h"
+#include "shell/qt/drawing/pictures.h"
+#include "shell/qt/drawing/program_style.h"
+#include "shell/qt/seams/end_signals.h"
+#include "shell/qt/seams/file_dialog.h"
+#include "shell/qt/seams/instance_lock.h"
+#include "shell/windows/wiring.h"
 
 namespace wrenbit {
 namespace {

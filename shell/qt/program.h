@@ -5,10 +5,10 @@
 #include <QApplication>
 #include <memory>
 
-#include "form_view.h"
-#include "qt_platform.h"
-#include "qt_serial.h"
-#include "qt_settings.h"
+#include "shell/qt/seams/qt_platform.h"
+#include "shell/qt/seams/qt_serial.h"
+#include "shell/qt/seams/qt_settings.h"
+#include "shell/qt/views/form_view.h"
 
 namespace wrenbit {
 

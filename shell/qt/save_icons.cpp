@@ -7,7 +7,7 @@
 #include <cstdlib>
 #include <iostream>
 
-#include "pictures.h"
+#include "shell/qt/drawing/pictures.h"
 
 int main(int argc, char** argv) {
   if (argc != 2) {

@@ -1,8 +1,8 @@
-#include "frm_about.h"
+#include "shell/controls/frm_about.h"
 
-#include "app.h"
-#include "platform.h"
-#include "window_events.h"
+#include "core/state/app.h"
+#include "core/state/platform.h"
+#include "shell/windows/window_events.h"
 
 namespace wrenbit {
 namespace {

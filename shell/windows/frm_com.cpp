@@ -1,19 +1,19 @@
-#include "frm_com.h"
+#include "shell/controls/frm_com.h"
 
 #include <array>
 #include <cstddef>
 #include <optional>
 #include <string>
 
-#include "app.h"
-#include "com_ports.h"
-#include "frm_main.h"
-#include "handshake.h"
-#include "mscomm.h"
-#include "platform.h"
-#include "settings.h"
-#include "state.h"
-#include "window_events.h"
+#include "core/state/app.h"
+#include "core/state/platform.h"
+#include "core/state/settings.h"
+#include "core/state/state.h"
+#include "link/com_ports.h"
+#include "link/handshake.h"
+#include "link/mscomm.h"
+#include "shell/controls/frm_main.h"
+#include "shell/windows/window_events.h"
 
 namespace wrenbit {
 namespace {

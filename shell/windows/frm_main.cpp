@@ -1,20 +1,20 @@
-#include "frm_main.h"
+#include "shell/controls/frm_main.h"
 
 #include <cstdio>
 #include <string>
 
-#include "app.h"
-#include "cell_selection.h"
-#include "device_selection.h"
-#include "edit_panel.h"
-#include "file_commands.h"
-#include "hex_grid.h"
-#include "number_text.h"
-#include "platform.h"
-#include "settings.h"
-#include "transfer_commands.h"
-#include "window_events.h"
-#include "windows.h"
+#include "core/device_selection.h"
+#include "core/file_commands.h"
+#include "core/state/app.h"
+#include "core/state/number_text.h"
+#include "core/state/platform.h"
+#include "core/state/settings.h"
+#include "core/transfer_commands.h"
+#include "editor/cell_selection.h"
+#include "editor/edit_panel.h"
+#include "editor/hex_grid.h"
+#include "shell/controls/windows.h"
+#include "shell/windows/window_events.h"
 
 namespace wrenbit {
 namespace {

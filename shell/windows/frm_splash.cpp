@@ -1,7 +1,7 @@
-#include "frm_splash.h"
+#include "shell/controls/frm_splash.h"
 
-#include "app.h"
-#include "window_events.h"
+#include "core/state/app.h"
+#include "shell/windows/window_events.h"
 
 namespace wrenbit {
 namespace {

@@ -1,6 +1,6 @@
-#include "wiring.h"
+#include "shell/windows/wiring.h"
 
-#include "window_events.h"
+#include "shell/windows/window_events.h"
 
 namespace wrenbit {
 

@@ -9,14 +9,14 @@
 #include <string_view>
 #include <utility>
 
-#include "cell_store.h"
-#include "chip_socket.h"
-#include "make_chip.h"
-#include "programmer_board.h"
-#include "test_pc.h"
-#include "three_wire_chip.h"
-#include "three_wire_parts.h"
-#include "two_wire_parts.h"
+#include "board/cell_store.h"
+#include "board/chip_socket.h"
+#include "board/make_chip.h"
+#include "board/programmer_board.h"
+#include "board/three_wire_chip.h"
+#include "board/three_wire_parts.h"
+#include "board/two_wire_parts.h"
+#include "tests/board/test_pc.h"
 
 namespace {
 

@@ -1,12 +1,12 @@
 // The faults that the sweep of all transfers would not miss if they never came.
-#include "faulty_board.h"
+#include "board/faulty_board.h"
 
 #include <gtest/gtest.h>
 
 #include <vector>
 
-#include "programmer_board.h"
-#include "test_pc.h"
+#include "board/programmer_board.h"
+#include "tests/board/test_pc.h"
 
 namespace {
 

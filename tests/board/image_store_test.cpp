@@ -1,11 +1,11 @@
 // Image files as a chip's memory.
-#include "image_store.h"
+#include "board/image_store.h"
 
 #include <gtest/gtest.h>
 
 #include <stdexcept>
 
-#include "temporary_folder.h"
+#include "tests/support/temporary_folder.h"
 
 namespace {
 

@@ -1,9 +1,9 @@
 // The firmware's versions, and what is a command.
-#include "programmer_board.h"
+#include "board/programmer_board.h"
 
 #include <gtest/gtest.h>
 
-#include "test_pc.h"
+#include "tests/board/test_pc.h"
 
 namespace {
 

@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-#include "wire_end.h"
+#include "board/wire_end.h"
 
 using Bytes = std::vector<std::uint8_t>;
 

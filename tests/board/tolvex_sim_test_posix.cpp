@@ -12,8 +12,8 @@
 #include <utility>
 #include <vector>
 
-#include "descriptor.h"
-#include "temporary_folder.h"
+#include "board/descriptor.h"
+#include "tests/support/temporary_folder.h"
 
 namespace {
 

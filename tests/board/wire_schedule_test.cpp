@@ -1,5 +1,5 @@
 // When a paced board's bytes get through, on a clock that stands still.
-#include "wire_schedule.h"
+#include "board/wire_schedule.h"
 
 #include <gtest/gtest.h>
 

@@ -6,11 +6,11 @@
 #include <set>
 #include <string>
 
-#include "catalogue.h"
-#include "catalogue_text.h"
-#include "make_chip.h"
-#include "state.h"
-#include "temporary_folder.h"
+#include "board/make_chip.h"
+#include "core/catalogue.h"
+#include "core/catalogue_text.h"
+#include "core/state/state.h"
+#include "tests/support/temporary_folder.h"
 
 namespace wrenbit {
 namespace {

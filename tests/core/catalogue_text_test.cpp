@@ -1,11 +1,11 @@
 // The catalogue's text: what is a device row, what is not, and what is told of a bad one.
-#include "catalogue_text.h"
+#include "core/catalogue_text.h"
 
 #include <gtest/gtest.h>
 
 #include <utility>
 
-#include "catalogue.h"
+#include "core/catalogue.h"
 
 namespace wrenbit {
 namespace {

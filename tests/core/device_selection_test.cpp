@@ -1,15 +1,15 @@
 // The selection of a device and of the block size.
-#include "device_selection.h"
+#include "core/device_selection.h"
 
 #include <gtest/gtest.h>
 
 #include <string>
 #include <vector>
 
-#include "catalogue_text.h"
-#include "frm_main.h"
-#include "state.h"
-#include "test_bench.h"
+#include "core/catalogue_text.h"
+#include "core/state/state.h"
+#include "shell/controls/frm_main.h"
+#include "tests/support/test_bench.h"
 
 namespace wrenbit {
 namespace {

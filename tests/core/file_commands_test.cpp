@@ -1,5 +1,5 @@
 // Load and save through the dialogs: texts, titles, remembered folders, and what a refusal leaves behind.
-#include "file_commands.h"
+#include "core/file_commands.h"
 
 #include <gtest/gtest.h>
 
@@ -8,12 +8,12 @@
 #include <filesystem>
 #include <vector>
 
-#include "app.h"
-#include "frm_main.h"
-#include "hex_grid.h"
-#include "state.h"
-#include "temporary_folder.h"
-#include "test_bench.h"
+#include "core/state/app.h"
+#include "core/state/state.h"
+#include "editor/hex_grid.h"
+#include "shell/controls/frm_main.h"
+#include "tests/support/temporary_folder.h"
+#include "tests/support/test_bench.h"
 
 namespace wrenbit {
 namespace {

@@ -1,6 +1,6 @@
 // The start of the program: what it shows and in which order, what it refuses, and what it takes from the
 // last run.
-#include "start.h"
+#include "core/start.h"
 
 #include <gtest/gtest.h>
 
@@ -9,12 +9,12 @@
 #include <utility>
 #include <vector>
 
-#include "app.h"
-#include "fresh_state.h"
-#include "state.h"
-#include "temporary_folder.h"
-#include "test_bench.h"
-#include "windows.h"
+#include "core/state/app.h"
+#include "core/state/state.h"
+#include "shell/controls/windows.h"
+#include "tests/support/fresh_state.h"
+#include "tests/support/temporary_folder.h"
+#include "tests/support/test_bench.h"
 
 namespace wrenbit {
 namespace {

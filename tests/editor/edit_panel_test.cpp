@@ -1,5 +1,5 @@
 // Selecting a byte in the hex grid, and editing it in each of its four ways.
-#include "edit_panel.h"
+#include "editor/edit_panel.h"
 
 #include <gtest/gtest.h>
 
@@ -8,12 +8,12 @@
 #include <string_view>
 #include <vector>
 
-#include "cell_selection.h"
-#include "frm_main.h"
-#include "hex_grid.h"
-#include "image_buffer.h"
-#include "state.h"
-#include "test_bench.h"
+#include "core/state/state.h"
+#include "editor/cell_selection.h"
+#include "editor/hex_grid.h"
+#include "image/image_buffer.h"
+#include "shell/controls/frm_main.h"
+#include "tests/support/test_bench.h"
 
 namespace wrenbit {
 namespace {

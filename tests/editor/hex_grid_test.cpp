@@ -1,5 +1,5 @@
 // The filling of the hex grid: its shape, its cells, and what a refill leaves behind.
-#include "hex_grid.h"
+#include "editor/hex_grid.h"
 
 #include <gtest/gtest.h>
 
@@ -8,10 +8,10 @@
 #include <string>
 #include <tuple>
 
-#include "frm_main.h"
-#include "image_buffer.h"
-#include "state.h"
-#include "test_bench.h"
+#include "core/state/state.h"
+#include "image/image_buffer.h"
+#include "shell/controls/frm_main.h"
+#include "tests/support/test_bench.h"
 
 namespace wrenbit {
 namespace {

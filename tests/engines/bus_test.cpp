@@ -3,10 +3,10 @@
 #include <string>
 #include <utility>
 
-#include "c24_bus.h"
-#include "c93_bus.h"
-#include "chip_bench.h"
-#include "state.h"
+#include "core/state/state.h"
+#include "engines/c24_bus.h"
+#include "engines/c93_bus.h"
+#include "tests/support/chip_bench.h"
 
 namespace wrenbit {
 namespace {

@@ -6,13 +6,13 @@
 #include <string>
 #include <vector>
 
-#include "catalogue.h"
-#include "catalogue_text.h"
-#include "chip_bench.h"
-#include "same_bytes.h"
-#include "state.h"
-#include "temporary_folder.h"
-#include "transfer_commands.h"
+#include "core/catalogue.h"
+#include "core/catalogue_text.h"
+#include "core/state/state.h"
+#include "core/transfer_commands.h"
+#include "tests/support/chip_bench.h"
+#include "tests/support/same_bytes.h"
+#include "tests/support/temporary_folder.h"
 
 namespace wrenbit {
 namespace {

@@ -7,13 +7,13 @@
 #include <string>
 #include <vector>
 
-#include "chip_bench.h"
-#include "faulty_board.h"
-#include "frm_main.h"
-#include "hex_grid.h"
-#include "hex_text.h"
-#include "state.h"
-#include "transfer_commands.h"
+#include "board/faulty_board.h"
+#include "core/state/state.h"
+#include "core/transfer_commands.h"
+#include "editor/hex_grid.h"
+#include "image/hex_text.h"
+#include "shell/controls/frm_main.h"
+#include "tests/support/chip_bench.h"
 
 namespace wrenbit {
 namespace {

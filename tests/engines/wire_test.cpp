@@ -6,10 +6,10 @@
 #include <tuple>
 #include <vector>
 
-#include "chip_bench.h"
-#include "same_bytes.h"
-#include "state.h"
-#include "transfer_commands.h"
+#include "core/state/state.h"
+#include "core/transfer_commands.h"
+#include "tests/support/chip_bench.h"
+#include "tests/support/same_bytes.h"
 
 namespace wrenbit {
 namespace {

@@ -1,4 +1,4 @@
-#include "intel_hex.h"
+#include "image/intel_hex.h"
 
 #include <gtest/gtest.h>
 
@@ -7,7 +7,7 @@
 #include <map>
 #include <numeric>
 
-#include "state.h"
+#include "core/state/state.h"
 
 namespace wrenbit {
 namespace {

@@ -7,9 +7,9 @@
 #include <random>
 #include <string>
 
-#include "intel_hex.h"
-#include "state.h"
-#include "temporary_folder.h"
+#include "core/state/state.h"
+#include "image/intel_hex.h"
+#include "tests/support/temporary_folder.h"
 
 namespace wrenbit {
 namespace {

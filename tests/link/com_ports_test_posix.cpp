@@ -1,4 +1,6 @@
 // Which devices there are, and which stands behind a COM number.
+#include "link/com_ports.h"
+
 #include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/file.h>
@@ -9,9 +11,8 @@
 #include <sstream>
 #include <string>
 
-#include "com_numbers.h"
-#include "com_ports.h"
-#include "temporary_folder.h"
+#include "link/com_numbers.h"
+#include "tests/support/temporary_folder.h"
 
 namespace wrenbit {
 namespace {

@@ -1,5 +1,5 @@
 // The handshake: what counts as a good reply, what each failure shows, and what survives it.
-#include "handshake.h"
+#include "link/handshake.h"
 
 #include <gtest/gtest.h>
 
@@ -9,11 +9,11 @@
 #include <tuple>
 #include <vector>
 
-#include "frm_main.h"
-#include "link.h"
-#include "mscomm.h"
-#include "state.h"
-#include "test_bench.h"
+#include "core/state/state.h"
+#include "link/link.h"
+#include "link/mscomm.h"
+#include "shell/controls/frm_main.h"
+#include "tests/support/test_bench.h"
 
 namespace wrenbit {
 namespace {

@@ -1,5 +1,5 @@
 // The operations of the link: what goes out, what is taken for the reply, and what the wait costs.
-#include "link.h"
+#include "link/link.h"
 
 #include <gtest/gtest.h>
 
@@ -8,9 +8,9 @@
 #include <utility>
 #include <vector>
 
-#include "mscomm.h"
-#include "state.h"
-#include "test_bench.h"
+#include "core/state/state.h"
+#include "link/mscomm.h"
+#include "tests/support/test_bench.h"
 
 namespace wrenbit {
 namespace {

@@ -1,5 +1,5 @@
 // The views of the controls on a form made for the purpose, used as a person would.
-#include "control_views.h"
+#include "shell/qt/views/control_views.h"
 
 #include <gtest/gtest.h>
 
@@ -23,13 +23,13 @@
 #include <memory>
 #include <string>
 
-#include "common_dialog.h"
-#include "file_dialog.h"
-#include "form_view.h"
-#include "lists_and_boxes.h"
-#include "platform.h"
-#include "status_bar.h"
-#include "temporary_folder.h"
+#include "core/state/platform.h"
+#include "shell/controls/common_dialog.h"
+#include "shell/controls/lists_and_boxes.h"
+#include "shell/controls/status_bar.h"
+#include "shell/qt/seams/file_dialog.h"
+#include "shell/qt/views/form_view.h"
+#include "tests/support/temporary_folder.h"
 
 namespace wrenbit {
 namespace {

@@ -1,4 +1,4 @@
-#include "grid_view.h"
+#include "shell/qt/views/grid_view.h"
 
 #include <gtest/gtest.h>
 
@@ -10,8 +10,8 @@
 #include <memory>
 #include <string>
 
-#include "form.h"
-#include "form_view.h"
+#include "shell/controls/form.h"
+#include "shell/qt/views/form_view.h"
 
 namespace wrenbit {
 namespace {

@@ -1,5 +1,5 @@
 // The help window with files of the test's own.
-#include "help_window.h"
+#include "shell/qt/seams/help_window.h"
 
 #include <gtest/gtest.h>
 
@@ -8,7 +8,7 @@
 #include <QTest>
 #include <QTextBrowser>
 
-#include "temporary_folder.h"
+#include "tests/support/temporary_folder.h"
 
 namespace wrenbit {
 namespace {

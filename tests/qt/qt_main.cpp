@@ -3,7 +3,7 @@
 
 #include <QTemporaryDir>
 
-#include "program.h"
+#include "shell/qt/program.h"
 
 int main(int argc, char** argv) {
   testing::InitGoogleTest(&argc, argv);

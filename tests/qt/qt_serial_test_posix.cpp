@@ -1,3 +1,5 @@
+#include "shell/qt/seams/qt_serial.h"
+
 #include <grp.h>
 #include <gtest/gtest.h>
 #include <poll.h>
@@ -15,12 +17,11 @@
 #include <string>
 #include <vector>
 
-#include "mscomm.h"
-#include "plain_user_posix.h"
-#include "platform.h"
-#include "qt_serial.h"
-#include "serial_handle.h"
-#include "temporary_folder.h"
+#include "core/state/platform.h"
+#include "link/mscomm.h"
+#include "shell/qt/seams/serial_handle.h"
+#include "tests/support/plain_user_posix.h"
+#include "tests/support/temporary_folder.h"
 
 namespace wrenbit {
 namespace {

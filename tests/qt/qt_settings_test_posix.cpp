@@ -1,14 +1,15 @@
+#include "shell/qt/seams/qt_settings.h"
+
 #include <gtest/gtest.h>
 
 #include <filesystem>
 #include <map>
 #include <string>
 
-#include "instance_lock.h"
-#include "number_text.h"
-#include "plain_user_posix.h"
-#include "qt_settings.h"
-#include "temporary_folder.h"
+#include "core/state/number_text.h"
+#include "shell/qt/seams/instance_lock.h"
+#include "tests/support/plain_user_posix.h"
+#include "tests/support/temporary_folder.h"
 
 namespace wrenbit {
 namespace {

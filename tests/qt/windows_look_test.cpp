@@ -16,12 +16,12 @@
 #include <utility>
 #include <vector>
 
-#include "app.h"
-#include "fitted_text.h"
-#include "form_view.h"
-#include "look.h"
-#include "pictures.h"
-#include "windows.h"
+#include "core/state/app.h"
+#include "shell/controls/windows.h"
+#include "shell/qt/drawing/fitted_text.h"
+#include "shell/qt/drawing/look.h"
+#include "shell/qt/drawing/pictures.h"
+#include "shell/qt/views/form_view.h"
 
 namespace wrenbit {
 namespace {

@@ -1,4 +1,4 @@
-#include "code_page_932.h"
+#include "core/state/code_page_932.h"
 
 #include <gtest/gtest.h>
 

@@ -1,3 +1,5 @@
+#include "core/state/whole_file.h"
+
 #include <gtest/gtest.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
@@ -12,9 +14,8 @@
 #include <string>
 #include <utility>
 
-#include "plain_user_posix.h"
-#include "temporary_folder.h"
-#include "whole_file.h"
+#include "tests/support/plain_user_posix.h"
+#include "tests/support/temporary_folder.h"
 
 namespace wrenbit {
 namespace {

@@ -1,10 +1,10 @@
-#include "chip_bench.h"
+#include "tests/support/chip_bench.h"
 
 #include <bit>
 
-#include "cell_address.h"
-#include "handshake.h"
-#include "make_chip.h"
+#include "board/make_chip.h"
+#include "editor/cell_address.h"
+#include "link/handshake.h"
 
 namespace wrenbit {
 

@@ -8,11 +8,11 @@
 #include <memory>
 #include <string>
 
-#include "cell_store.h"
-#include "frm_main.h"
-#include "programmer_board.h"
-#include "state.h"
-#include "test_bench.h"
+#include "board/cell_store.h"
+#include "board/programmer_board.h"
+#include "core/state/state.h"
+#include "shell/controls/frm_main.h"
+#include "tests/support/test_bench.h"
 
 namespace wrenbit {
 

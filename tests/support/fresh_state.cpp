@@ -1,7 +1,7 @@
-#include "fresh_state.h"
+#include "tests/support/fresh_state.h"
 
-#include "state.h"
-#include "windows.h"
+#include "core/state/state.h"
+#include "shell/controls/windows.h"
 
 namespace wrenbit {
 

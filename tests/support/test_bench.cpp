@@ -1,12 +1,12 @@
-#include "test_bench.h"
+#include "tests/support/test_bench.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
 
-#include "app.h"
-#include "fresh_state.h"
-#include "wiring.h"
+#include "core/state/app.h"
+#include "shell/windows/wiring.h"
+#include "tests/support/fresh_state.h"
 
 namespace wrenbit {
 

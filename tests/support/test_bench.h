@@ -12,11 +12,11 @@
 #include <string>
 #include <vector>
 
-#include "com_ports.h"
-#include "mscomm.h"
-#include "platform.h"
-#include "settings.h"
-#include "wire_end.h"
+#include "board/wire_end.h"
+#include "core/state/platform.h"
+#include "core/state/settings.h"
+#include "link/com_ports.h"
+#include "link/mscomm.h"
 
 namespace wrenbit {
 

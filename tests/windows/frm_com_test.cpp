@@ -1,15 +1,15 @@
 // The port settings window: what it tries, what it stores, and that it lets go of the port.
-#include "frm_com.h"
+#include "shell/controls/frm_com.h"
 
 #include <gtest/gtest.h>
 
 #include <string>
 #include <vector>
 
-#include "chip_bench.h"
-#include "com_ports.h"
-#include "mscomm.h"
-#include "transfer_commands.h"
+#include "core/transfer_commands.h"
+#include "link/com_ports.h"
+#include "link/mscomm.h"
+#include "tests/support/chip_bench.h"
 
 namespace wrenbit {
 namespace {

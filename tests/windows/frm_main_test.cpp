@@ -1,5 +1,5 @@
 // Every button and menu entry of the main window does what its caption says.
-#include "frm_main.h"
+#include "shell/controls/frm_main.h"
 
 #include <gtest/gtest.h>
 
@@ -8,12 +8,12 @@
 #include <utility>
 #include <vector>
 
-#include "app.h"
-#include "chip_bench.h"
-#include "frm_about.h"
-#include "frm_com.h"
-#include "platform.h"
-#include "state.h"
+#include "core/state/app.h"
+#include "core/state/platform.h"
+#include "core/state/state.h"
+#include "shell/controls/frm_about.h"
+#include "shell/controls/frm_com.h"
+#include "tests/support/chip_bench.h"
 
 namespace wrenbit {
 namespace {
