@@ -61,7 +61,7 @@ class Tour : public QObject {
     if (event->type() != QEvent::Show) return false;
     if (auto* box = qobject_cast<QDialog*>(watched))
       QTimer::singleShot(0, box, [this, box] { Answer(*box); });
-    if (watched == &program.Port_Window()) QTimer::singleShot(0, this, [this] { Visit_Port_Window(); });
+    if (watched == program.Port_Window()) QTimer::singleShot(0, this, [this] { Visit_Port_Window(); });
     return false;
   }
 
@@ -163,7 +163,7 @@ void Tour::Take_Picture(const QString& name, QWidget& window) {
 
 // Runs while the window is up. What goes wrong must not leave the event loop, which waits for it.
 void Tour::Visit_Port_Window() try {
-  Form_View& window = program.Port_Window();
+  Form_View& window = *program.Port_Window();
   Require(MSComm1.PortOpen(), "the port window did not open the port");
   Take_Picture("port", window);
   const auto& list = dynamic_cast<QComboBox&>(*window.View_Of(frmCom.Cmb_com));

@@ -20,6 +20,7 @@ void Form::Show_As(bool modal) {
   Ensure_Loaded();
   // Form_Load may yield, and the window may have been shown and closed meanwhile.
   if (!loaded || Visible()) return;
+  if (!View_Show) Fire(View_Make);
   Set_Visible(true);
   Fire(View_Show, modal);
 }

@@ -58,6 +58,9 @@ class Form : public Captioned {
   std::function<void()> Form_Unload;
   std::function<void()> Close_Asked;
 
+  // Makes the view, which then sets its hooks. Asked for when the window is first shown.
+  std::function<void()> View_Make;
+
   // Hooks of the view.
   std::function<void(bool modal)> View_Show;  // A modal one comes back when the window has gone.
   std::function<void()> View_Hide;

@@ -4,6 +4,7 @@
 #include <QLibraryInfo>
 #include <QStandardPaths>
 #include <QTranslator>
+#include <initializer_list>
 
 #include "core/start.h"
 #include "core/state/app.h"
@@ -63,26 +64,32 @@ Program::Program(int& argc, char** argv)
   TheSettings = &settings;
   MSComm1.Attach(&serial);
   Wire_Windows();
-  Make_Windows();
+  Offer_Views();
   On_End_Signal(&application, [this] { frmMain.Loaded() ? frmMain.Close() : platform.End(); });
 }
 
 Program::~Program() {
+  for (Form* form : std::initializer_list<Form*>{&frmSplash, &frmMain, &frmCom, &frmAbout})
+    form->View_Make = nullptr;
   MSComm1.Close();
   MSComm1.Attach(nullptr);
   TheSettings = nullptr;
   ThePlatform = nullptr;
 }
 
-void Program::Make_Windows() {
-  main_window = std::make_unique<Form_View>(frmMain, Form_Kind::Main);
-  Order_Tabs(*main_window);
-  Offer_File_Dialogs(frmMain.dlgCommonDialog, main_window.get());
-
-  com_window = std::make_unique<Form_View>(frmCom, Form_Kind::Dialog, main_window.get());
-
-  about_window = std::make_unique<Form_View>(frmAbout, Form_Kind::Dialog, main_window.get());
-  splash_window = std::make_unique<Form_View>(frmSplash, Form_Kind::Splash);
+void Program::Offer_Views() {
+  frmSplash.View_Make = [this] { splash_window = std::make_unique<Form_View>(frmSplash, Form_Kind::Splash); };
+  frmMain.View_Make = [this] {
+    main_window = std::make_unique<Form_View>(frmMain, Form_Kind::Main);
+    Order_Tabs(*main_window);
+    Offer_File_Dialogs(frmMain.dlgCommonDialog, main_window.get());
+  };
+  frmCom.View_Make = [this] {
+    com_window = std::make_unique<Form_View>(frmCom, Form_Kind::Dialog, main_window.get());
+  };
+  frmAbout.View_Make = [this] {
+    about_window = std::make_unique<Form_View>(frmAbout, Form_Kind::Dialog, main_window.get());
+  };
 }
 
 bool Program::Start() { return Main(); }

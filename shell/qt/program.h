@@ -15,7 +15,8 @@ namespace wrenbit {
 // wrenbit/ in the user's configuration folder: settings, instance lock, whose the COM numbers are.
 QString Config_Folder();
 
-// The one instance in a process. Nothing shows until Start.
+// The one instance in a process. Nothing shows until Start, and the view of a window is made when it is first
+// shown.
 class Program {
  public:
   Program(int& argc, char** argv);
@@ -26,11 +27,13 @@ class Program {
   // Lives on events until the program ends.
   void Run();
 
+  // The view of the main window, from a good Start on.
   Form_View& Main_Window() { return *main_window; }
-  Form_View& Port_Window() { return *com_window; }
+  // Null until the window has been shown.
+  Form_View* Port_Window() { return com_window.get(); }
 
  private:
-  void Make_Windows();
+  void Offer_Views();
 
   QApplication application;
   Qt_Platform platform;

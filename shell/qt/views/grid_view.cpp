@@ -21,6 +21,7 @@ constexpr int kPadding = 2;
 
 Grid_View::Grid_View(FlexGrid& shown, QWidget* holder) : QAbstractScrollArea(holder), grid(shown) {
   setFocusPolicy(Qt::StrongFocus);
+  setAutoFillBackground(true);  // So that Qt knows that what lies behind it need not be painted.
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
 }
