@@ -44,8 +44,8 @@ class Programmer_Board : public Wire_End {
   std::uint64_t Commands() const override { return completed; }
   std::uint64_t Bytes_In() const { return bytes_in; }
   std::uint64_t Bytes_Out() const { return bytes_out; }
-  // Seconds that all bytes so far, in and out, take at 9600 baud 8N1. The chip's clock.
-  double Wire_Time() const { return static_cast<double>(bytes_in + bytes_out) * 10 / 9600; }
+  // Seconds that all bytes so far, in and out, take on the wire. The chip's clock.
+  double Wire_Time() const { return static_cast<double>(bytes_in + bytes_out) * kByteTime; }
 
  private:
   using Reply = std::vector<std::uint8_t>;

@@ -6,6 +6,9 @@
 
 namespace board {
 
+// Seconds that the wire takes for a byte at 9600 baud: start bit, eight data bits, stop bit.
+inline constexpr double kByteTime = 10.0 / 9600;
+
 // What a board says to one byte.
 struct Answer {
   std::vector<std::uint8_t> Bytes;

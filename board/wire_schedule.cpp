@@ -2,18 +2,22 @@
 
 #include <algorithm>
 
+#include "board/wire_end.h"
+
 namespace board {
 namespace {
 
 using std::chrono::nanoseconds;
 constexpr nanoseconds kNone{0};
-constexpr nanoseconds kWireByteTime{10'000'000'000 / 9600};  // Start bit, eight data bits, stop bit.
 constexpr std::chrono::milliseconds kAwakeFor{5};
 
 }  // namespace
 
 Wire_Schedule::Wire_Schedule(const Port_Timing& timing)
-    : byte_time(timing.Wire == Pace::Wire ? kWireByteTime : kNone), latency(timing.Latency) {}
+    : byte_time(timing.Wire == Pace::Wire
+                    ? std::chrono::duration_cast<nanoseconds>(std::chrono::duration<double>(kByteTime))
+                    : kNone),
+      latency(timing.Latency) {}
 
 Wire_Schedule::Clock::time_point Wire_Schedule::Arrival(Clock::time_point sent) {
   return in_free = std::max(in_free, sent) + byte_time;

@@ -1,12 +1,5 @@
-// The two-wire bus of a 24Cxx chip, clocked by the PC through the board's ports.
-//
-//   pin            mask  role                        on          off
-//   port A bit 1   0x02  SCL                         out, high   in, low
-//   port A bit 2   0x04  SDA                         out, high   in, low
-//   port B 2,3,4   0x1C  held low                    out, low    in, low
-//   port B bit 6   0x40  supply of the socket        out, high   in, low
-//   port C bit 3   0x08  held low                    out, low    in, low
-//   port C bit 7   0x80  held high                   out, high   out, high
+// The two-wire bus of a 24Cxx chip, clocked by the PC through the board's ports; docs/wire-protocol.md has
+// the pins of the socket, and what a bus action costs.
 //
 // From firmware 5.0 on a bit is one command of the board; below, it is a sequence of port commands. Start,
 // stop and power are port commands at every version, and read back what they drove.

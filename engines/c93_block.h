@@ -11,8 +11,8 @@ namespace wrenbit {
 // in hand, which is not to be trusted. Leaves the refilling of the grid to the caller.
 void C93_AllRead();
 
-// On failure the chip is partly written, and the image as it was. Nothing is read back. The chip has for each
-// write cycle what a 9600-baud wire takes to the next instruction: 8 ms from firmware 5.0 on, 13 ms below.
+// On failure the chip is partly written, and the image as it was. Nothing is read back, and no write cycle is
+// waited for: a chip has the time that the wire takes to the next instruction (docs/wire-protocol.md).
 void C93_AllWrite();
 
 }  // namespace wrenbit

@@ -1,13 +1,5 @@
-// The three-wire bus of a 93Cxx chip, clocked by the PC through the board's ports.
-//
-//   pin            mask  role                        on          off
-//   port A 1,2     0x06  held low                    out, low    in, low
-//   port B bit 2   0x04  DO, data from the chip      in          in, low
-//   port B bit 3   0x08  DI, data to the chip        out, low    in, low
-//   port B bit 4   0x10  SK, the clock               out, low    in, low
-//   port B bit 6   0x40  supply of the socket        out, high   in, low
-//   port C bit 3   0x08  CS, chip select             out, low    in, low
-//   port C bit 7   0x80  held high                   out, high   out, high
+// The three-wire bus of a 93Cxx chip, clocked by the PC through the board's ports; docs/wire-protocol.md has
+// the pins of the socket, and what a bus action costs.
 //
 // All operations are port commands at every firmware version; from 5.0 on the block transfers send whole
 // fields in their place. A failure is a text in panel 1 and nothing more: none sets LinkError, which only a

@@ -9,8 +9,8 @@ namespace wrenbit {
 // On failure image, grid and edit panel stay as they were.
 void C93_ByteRead();
 
-// Sends the image's byte. What the chip stored is not read back. The chip has the time of the power-off's
-// first two commands for its write cycle, 8 ms.
+// Sends the image's byte. What the chip stored is not read back, and its write cycle is not waited for: it
+// has the time of the power-off's first two commands.
 void C93_ByteWrite();
 
 }  // namespace wrenbit

@@ -20,7 +20,6 @@
 #include "link/failure.h"
 #include "link/mscomm.h"
 #include "link/reply_wait.h"
-#include "shell/controls/frm_com.h"
 #include "shell/controls/frm_main.h"
 
 namespace wrenbit {
@@ -171,9 +170,7 @@ std::optional<std::string> Ask_Identity() {
 
 void Read_Version() {
   LinkError = 0;
-  // The port window's first use, unseen: the user's next look at it opens no port then. While a transfer runs
-  // its load leaves the port alone; it may yield.
-  frmCom.Ensure_Loaded();
+  if (Handshake_Begins) Handshake_Begins();
   const Port_Choice port = Chosen_Port();
   if (const Port_Fault fault = Open_Chosen(port); fault != Port_Fault::None)
     return Fail_Unanswered(port, fault);

@@ -1,23 +1,10 @@
-// The sixteen operations that reach the programmer board. A command is its raw bytes: no framing, no
-// checksum, no sequence number, and a reply only where the table says so.
+// The sixteen operations that reach the programmer board, each a command of docs/wire-protocol.md.
 //
-//   operation            bytes sent                reply
-//   Link_SendBit1        "1"                       none
-//   Link_SendBit0        "2"                       none
-//   Link_ReadBit         "3"                       1 = data line high, else low
-//   Link_SendByte24      "9" data                  one byte, ignored
-//   Link_ReadByte24      "7"                       the data
-//   Link_ReadByte93      "8"                       the data
-//   Link_SendBits93      "0" count high low        one byte, ignored
-//   Link_WritePortA..C   "mwa".."mwc" value        none
-//   Link_SetDirA..C      "mta".."mtc" value        none
-//   Link_ReadPortA..C    "mra".."mrc"              exactly one byte: the pins
-//
-// The digits exist from firmware 5.0 on. On a closed port each fails. Each operation first drops what lies in
-// the receive buffer. A reply is awaited for one second; without one LinkError becomes 1 and the result is 0.
-// A command that the system would not take sets it too, and what follows is held back until the next power
-// sequence. No operation clears LinkError or refuses to run because of it, and none retries. Where the wire
-// is far behind, an operation yields until it has caught up, before all else.
+// The accelerators exist from firmware 5.0 on. On a closed port each operation fails. Each first drops what
+// lies in the receive buffer. A reply is awaited for one second; without one LinkError becomes 1 and the
+// result is 0. A command that the system would not take sets it too, and what follows is held back until the
+// next power sequence. No operation clears LinkError or refuses to run because of it, and none retries. Where
+// the wire is far behind, an operation yields until it has caught up, before all else.
 #pragma once
 
 #include <cstdint>

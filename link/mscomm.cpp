@@ -7,7 +7,6 @@
 namespace wrenbit {
 namespace {
 
-constexpr double kWireByteTime = 10.0 / 9600;  // Start bit, eight data bits, stop bit.
 // Seconds. A new device has its rights some tens of milliseconds after it has appeared.
 constexpr double kRightsLimit = 0.5;
 constexpr double kRightsStep = 0.02;
@@ -34,7 +33,7 @@ Port_Fault MSComm::Open() {
     if (turn != turns) return open ? Port_Fault::None : Port_Fault::No_Permission;
   }
   open = fault == Port_Fault::None;
-  byte_time = kWireByteTime;
+  byte_time = kByteTime;
   wire_free = 0;
   refused = false;
   return fault;
@@ -74,7 +73,7 @@ bool MSComm::Output(std::span<const std::uint8_t> bytes) {
 
 void MSComm::Learn_Pace(std::size_t bytes, double seconds) {
   const double seen = seconds / static_cast<double>(bytes);
-  if (seen < kWireByteTime / 2) byte_time = seen;
+  if (seen < kByteTime / 2) byte_time = seen;
 }
 
 void MSComm::Await_Room(std::size_t bytes) {

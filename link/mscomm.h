@@ -59,6 +59,8 @@ class Serial_Backend {
 class MSComm {
  public:
   static constexpr std::size_t kOutBufferSize = 512;  // Bytes.
+  // Seconds: start bit, eight data bits, stop bit.
+  static constexpr double kByteTime = 10.0 / 9600;
 
   // The backend outlives its use here.
   void Attach(Serial_Backend* port);
@@ -114,8 +116,8 @@ class MSComm {
   unsigned turns = 0;  // Opens and closes so far.
   std::size_t unasked = 0;
   bool refused = false;
-  double byte_time = 0;  // Seconds that a byte takes on the wire.
-  double wire_free = 0;  // When the wire has carried all that was sent, on the clock of Timer.
+  double byte_time = kByteTime;  // As seen on the open port; seconds.
+  double wire_free = 0;          // When the wire has carried all that was sent, on the clock of Timer.
 };
 
 inline MSComm MSComm1;

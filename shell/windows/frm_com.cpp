@@ -62,7 +62,7 @@ void Form_Unload() {
 
 // The open only tries the port. The pick stays stored when it fails: the next transfer tries that port.
 void Cmb_com_Click() {
-  if (TransferRunning) return;  // Loaded unseen by a transfer, whose port it is.
+  if (TransferRunning) return;  // The port is the transfer's.
   MSComm1.Close();
   SaveSetting(key::kComNo, std::to_string(frmCom.Cmb_com.ListIndex()));
   MSComm1.CommPort = frmCom.Cmb_com.ListIndex() + 1;
@@ -99,6 +99,8 @@ void Wire_frmCom() {
   frmCom.Cmb_com.Tip = Device_Text;
   frmCom.Cmd_Close.Click = Cmd_Close_Click;
   MSComm1.Gone = Port_Gone;
+  // Unseen: the user's next look at the window opens no port then.
+  Handshake_Begins = [] { frmCom.Ensure_Loaded(); };
   frmCom.CheckRTS.Click = [] {
     DoEvents();
     Save_Line(key::kRts, frmCom.CheckRTS);

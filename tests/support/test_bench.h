@@ -43,7 +43,7 @@ class Test_Bench : private Platform, private Settings_Store, private Serial_Back
   std::vector<std::string> Opened;         // "COM1 RTS DTR" for each open.
   std::map<int, Serial_Device> Devices;    // By COM number.
   std::vector<int> Kept;                   // The numbers that were given to their devices.
-  double ByteTime = 10.0 / 9600;           // Seconds a byte on the wire.
+  double ByteTime = board::kByteTime;      // Seconds a byte on the wire.
   bool Is_Open() const { return open; }
   using Serial_Backend::On_Lost;
   // A byte that lies in the receive buffer now.
