@@ -2,27 +2,16 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <cstdlib>
-#include <sstream>
 #include <string>
-#include <string_view>
 #include <system_error>
 #include <utility>
 #include <vector>
 
-#include "core/state/whole_file.h"
+#include "link/lock_file.h"
 
 namespace wrenbit {
 namespace fs = std::filesystem;
 namespace {
-
-// A line a number, with tabs between: COMn, what its owner is known by, vendor:product:interface, serial
-// number, place, maker, product.
-constexpr const char* kFirstLine =
-    "# 番号の持ち主。行を消すと番号が空く / Who owns a number. Delete a line to free it\n";
-constexpr const char* kPrefix = "COM";
-constexpr const char* kBySerial = "serial";
-constexpr const char* kByPlace = "place";
 
 bool Same_Serial(const Serial_Device& a, const Serial_Device& b) {
   return a.Kind == b.Kind && a.Serial == b.Serial && !a.Serial.empty();
@@ -44,32 +33,34 @@ std::string Target(const fs::path& link) {
 Com_Numbers::Com_Numbers(const fs::path& config_folder, fs::path system_folder)
     : ports(config_folder / "ports"), file(config_folder / "com-numbers"), system(std::move(system_folder)) {}
 
-fs::path Com_Numbers::Link(int number) const { return ports / (kPrefix + std::to_string(number)); }
+fs::path Com_Numbers::Link(int number) const { return ports / ("COM" + std::to_string(number)); }
 
 bool Com_Numbers::Has_Link(int number) const {
   std::error_code ignored;
   return fs::is_symlink(Link(number), ignored) && !Lock_Was_Left_Behind(Link(number) += ".lock");
 }
 
-// A line that is damaged keeps its number for a device that is away: who knows whose it was. Any other text
-// is passed over.
-std::map<int, Com_Numbers::Owner> Com_Numbers::Owners() const {
-  std::map<int, Owner> owners;
-  std::istringstream lines(Read_Whole_File(file.string()).value_or(""));
-  for (std::string line; std::getline(lines, line);) {
-    std::istringstream fields(line);
-    std::string com, known_by;
-    Serial_Device device;
-    for (std::string* field :
-         {&com, &known_by, &device.Kind, &device.Serial, &device.Place, &device.Maker, &device.Product})
-      std::getline(fields, *field, '\t');
-    if (!com.starts_with(kPrefix)) continue;
-    const int number = std::atoi(com.c_str() + std::string_view(kPrefix).size());
-    if (number < 1 || number > kComPorts) continue;
-    const bool whole = (known_by == kBySerial || known_by == kByPlace) && !device.Place.empty();
-    owners.emplace(number, whole ? Owner{known_by == kBySerial, device} : Owner{false, {}});
-  }
-  return owners;
+std::map<int, Serial_Device> Com_Numbers::Take_Owners(const Com_Owners& owners,
+                                                      std::vector<Serial_Device>& devices) const {
+  std::map<int, Serial_Device> at_home;
+  const auto seat = [&](auto is_owner) {
+    for (const auto& [owned, owner] : owners) {
+      const auto found = std::ranges::find_if(
+          devices, [&, &who = owner](const Serial_Device& d) { return is_owner(who, d); });
+      if (at_home.contains(owned) || Has_Link(owned) || found == devices.end()) continue;
+      at_home.emplace(owned, *found);
+      devices.erase(found);
+    }
+  };
+  // Who is where it was goes before who has only the serial number.
+  seat([](const Com_Owner& owner, const Serial_Device& d) { return Same_Place(owner.Device, d); });
+  seat([&](const Com_Owner& owner, const Serial_Device& device) {
+    // A serial number that several have tells nobody apart.
+    const auto same = [&](const Serial_Device& other) { return Same_Serial(device, other); };
+    return owner.BySerial && same(owner.Device) && std::ranges::count_if(devices, same) == 1 &&
+           std::ranges::count_if(owners, [&](const auto& o) { return same(o.second.Device); }) == 1;
+  });
+  return at_home;
 }
 
 std::optional<Serial_Device> Com_Numbers::Device(int number) const {
@@ -82,25 +73,8 @@ std::optional<Serial_Device> Com_Numbers::Device(int number) const {
     return known == devices.end() ? Serial_Device{.Path = path} : *known;
   }
 
-  // Who is where it was goes before who has only the serial number.
-  const std::map<int, Owner> owners = Owners();
-  std::map<int, Serial_Device> at_home;
-  const auto seat = [&](auto is_owner) {
-    for (const auto& [owned, owner] : owners) {
-      const auto found = std::ranges::find_if(
-          devices, [&, &who = owner](const Serial_Device& d) { return is_owner(who, d); });
-      if (at_home.contains(owned) || Has_Link(owned) || found == devices.end()) continue;
-      at_home.emplace(owned, *found);
-      devices.erase(found);
-    }
-  };
-  seat([](const Owner& owner, const Serial_Device& d) { return Same_Place(owner.Device, d); });
-  seat([&](const Owner& owner, const Serial_Device& device) {
-    // A serial number that several have tells nobody apart.
-    const auto same = [&](const Serial_Device& other) { return Same_Serial(device, other); };
-    return owner.BySerial && same(owner.Device) && std::ranges::count_if(devices, same) == 1 &&
-           std::ranges::count_if(owners, [&](const auto& o) { return same(o.second.Device); }) == 1;
-  });
+  const Com_Owners owners = Read_Com_Owners(file);
+  const std::map<int, Serial_Device> at_home = Take_Owners(owners, devices);
   if (at_home.contains(number)) return at_home.at(number);
   if (owners.contains(number)) return owners.at(number).Device;
 
@@ -116,7 +90,7 @@ std::optional<Serial_Device> Com_Numbers::Device(int number) const {
 
 void Com_Numbers::Give(int number, const Serial_Device& device) const {
   if (device.Path.empty() || device.Place.empty() || Has_Link(number)) return;
-  std::map<int, Owner> owners = Owners();
+  Com_Owners owners = Read_Com_Owners(file);
   // Many cheap adapters share one serial number. That two of them were seen together once stays known.
   const std::vector<Serial_Device> present = Serial_Devices_Present(system);
   const auto same = [&](const Serial_Device& other) { return Same_Serial(device, other); };
@@ -130,19 +104,7 @@ void Com_Numbers::Give(int number, const Serial_Device& device) const {
     return Same_Place(o.second.Device, device) || (o.second.BySerial && same(o.second.Device));
   });
   owners[number] = {!device.Serial.empty() && !shared, device};
-
-  std::string text = kFirstLine;
-  for (const auto& [owned, owner] : owners) {
-    const Serial_Device& d = owner.Device;
-    text += kPrefix + std::to_string(owned);
-    for (const std::string& field :
-         {std::string(owner.BySerial ? kBySerial : kByPlace), d.Kind, d.Serial, d.Place, d.Maker, d.Product})
-      text += '\t' + field;
-    text += '\n';
-  }
-  std::error_code ignored;
-  const std::optional<std::string> before = Read_Whole_File(file.string());
-  if (before ? *before != text : !fs::exists(file, ignored)) Write_Whole_File(file.string(), text);
+  Write_Com_Owners(file, owners);
 }
 
 }  // namespace wrenbit

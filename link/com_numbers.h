@@ -4,7 +4,9 @@
 #include <filesystem>
 #include <map>
 #include <optional>
+#include <vector>
 
+#include "link/com_owners.h"
 #include "link/com_ports.h"
 
 namespace wrenbit {
@@ -31,11 +33,9 @@ class Com_Numbers {
   void Give(int number, const Serial_Device& device) const;
 
  private:
-  struct Owner {
-    bool BySerial;  // Wherever it is plugged in; else in its place only.
-    Serial_Device Device;
-  };
-  std::map<int, Owner> Owners() const;
+  // The owners that are present, by their numbers: taken out of the devices.
+  std::map<int, Serial_Device> Take_Owners(const Com_Owners& owners,
+                                           std::vector<Serial_Device>& devices) const;
   std::filesystem::path Link(int number) const;
   bool Has_Link(int number) const;
 

@@ -36,7 +36,4 @@ std::vector<Serial_Device> In_Com_Order(std::vector<Serial_Device> devices);
 // tells of its devices.
 std::vector<Serial_Device> Serial_Devices_Present(const std::filesystem::path& system_folder = "/sys");
 
-// True when a file is there that a process could hold a lock on, and none does.
-bool Lock_Was_Left_Behind(const std::filesystem::path& lock_file);
-
 }  // namespace wrenbit

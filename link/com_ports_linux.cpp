@@ -1,10 +1,6 @@
 // Serial devices as Linux tells of them under /sys/class/tty.
 #include "link/com_ports.h"
 
-#include <fcntl.h>
-#include <sys/file.h>
-#include <unistd.h>
-
 #include <algorithm>
 #include <fstream>
 #include <string>
@@ -78,14 +74,6 @@ std::vector<Serial_Device> Serial_Devices_Present(const std::filesystem::path& s
     present.push_back(std::move(device));
   }
   return present;
-}
-
-bool Lock_Was_Left_Behind(const std::filesystem::path& lock_file) {
-  const int file = open(lock_file.c_str(), O_RDONLY | O_CLOEXEC);
-  if (file < 0) return false;
-  const bool free = flock(file, LOCK_SH | LOCK_NB) == 0;
-  close(file);
-  return free;
 }
 
 }  // namespace wrenbit

@@ -18,6 +18,7 @@
 
 #include "core/state/app.h"
 #include "shell/controls/windows.h"
+#include "shell/qt/drawing/colours.h"
 #include "shell/qt/drawing/fitted_text.h"
 #include "shell/qt/drawing/look.h"
 #include "shell/qt/drawing/pictures.h"

@@ -72,14 +72,6 @@ QFont Display_Font(const QString& otherwise) {
   return QFont(otherwise, -1, QFont::Bold);
 }
 
-// WCAG 2.1, "relative luminance" and "contrast ratio".
-double Luminance(const QColor& colour) {
-  const auto linear = [](double part) {
-    return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
-  };
-  return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) + 0.0722 * linear(colour.blueF());
-}
-
 }  // namespace
 
 QString Text_Of(std::string_view utf8) {
@@ -111,20 +103,6 @@ QFont Font_For(const Font& lettering) {
   // Hinted, this family's digits end a pixel above the base line and its full stop a pixel below: a comma.
   if (font.family() == QStringLiteral("IPAGothic")) font.setHintingPreference(QFont::PreferNoHinting);
   return font;
-}
-
-QColor Mixed(const QColor& from, const QColor& to, int percent) {
-  const auto part = [=](int a, int b) { return a + (b - a) * percent / 100; };
-  return QColor(part(from.red(), to.red()), part(from.green(), to.green()), part(from.blue(), to.blue()));
-}
-
-double Contrast(const QColor& one, const QColor& other) {
-  const auto [dark, light] = std::minmax({Luminance(one), Luminance(other)});
-  return (light + 0.05) / (dark + 0.05);
-}
-
-QColor Line_Colour(const QPalette& palette) {
-  return Mixed(palette.color(QPalette::Window), palette.color(QPalette::Active, QPalette::WindowText), 33);
 }
 
 }  // namespace wrenbit

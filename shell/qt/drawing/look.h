@@ -3,9 +3,7 @@
 // whole.
 #pragma once
 
-#include <QColor>
 #include <QFont>
-#include <QPalette>
 #include <QRect>
 #include <QString>
 #include <string_view>
@@ -26,14 +24,5 @@ QRect Pixels(const Place& place);
 // The typeface's own font where it is installed, else a relative of it that is: a Japanese one of the same
 // kind, or a heavy one for display.
 QFont Font_For(const Font& lettering);
-
-// So many percent of the way from one colour to the other.
-QColor Mixed(const QColor& from, const QColor& to, int percent);
-
-// From 1 to 21: how well the one can be read on the other, by WCAG 2.1.
-double Contrast(const QColor& one, const QColor& other);
-
-// For all lines and frames: plain in light and in dark palettes, and weaker than any letter.
-QColor Line_Colour(const QPalette& palette);
 
 }  // namespace wrenbit

@@ -5,8 +5,8 @@
 #include <QStyleOption>
 #include <algorithm>
 
+#include "shell/qt/drawing/colours.h"
 #include "shell/qt/drawing/fitted_text.h"
-#include "shell/qt/drawing/look.h"
 #include "shell/qt/drawing/pixel_lines.h"
 
 namespace wrenbit {

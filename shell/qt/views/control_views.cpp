@@ -19,6 +19,7 @@
 #include "shell/controls/lists_and_boxes.h"
 #include "shell/controls/plain_controls.h"
 #include "shell/controls/status_bar.h"
+#include "shell/qt/drawing/colours.h"
 #include "shell/qt/drawing/fitted_text.h"
 #include "shell/qt/drawing/look.h"
 #include "shell/qt/drawing/pictures.h"

@@ -8,6 +8,7 @@
 #include <string>
 #include <utility>
 
+#include "shell/qt/drawing/colours.h"
 #include "shell/qt/drawing/fitted_text.h"
 #include "shell/qt/drawing/look.h"
 #include "shell/qt/drawing/pixel_lines.h"
