@@ -48,7 +48,7 @@ class Chip_Socket {
   // Replaces the chip in the socket, also with the supply on.
   void Insert(std::unique_ptr<Chip> chip);
 
-  // A fault of the line: it keeps one level, whoever drives it.
+  // A stuck pin: the line keeps one level, whoever drives it.
   void Stick(Line line, bool high);
 
   // What the board does to the lines from `now` on, in seconds of wire time.

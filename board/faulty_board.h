@@ -22,7 +22,7 @@ struct Faults {
 
 class Faulty_Board : public Wire_End {
  public:
-  // `inner` must outlive this. Without faults it is heard as it is.
+  // `board` must outlive this. Without faults it is heard as it is.
   explicit Faulty_Board(Wire_End& board, const Faults& faults = {}) : inner(board) { Arm(faults); }
 
   // Starts anew: other faults, all counts at 0, and a port that has gone is back.

@@ -31,7 +31,7 @@ void Three_Wire_Chip::Sense(const Levels& levels, double now) {
   }
   if (!powered_before) return;  // Levels that came with the supply are no edges.
 
-  if (!cs_before && cs) state = Phase::Start;
+  if (!cs_before && cs) phase = Phase::Start;
   // Data that change with the clock's edge have not been set up for it.
   if (cs && !sk_before && sk) On_Clock(di_before);
   if (cs_before && !cs) On_Deselect();
@@ -41,28 +41,28 @@ void Three_Wire_Chip::Sense(const Levels& levels, double now) {
 Drive Three_Wire_Chip::Drives_Line(Line line, double now) const {
   if (line != Line::Do || !powered || !cs) return Drive::Released;
   if (shows_status) return now < busy_until ? Drive::Low : Drive::High;
-  if (state != Phase::Send) return Drive::Released;
+  if (phase != Phase::Send) return Drive::Released;
   return out ? Drive::High : Drive::Low;
 }
 
 void Three_Wire_Chip::On_Clock(bool bit) {
-  switch (state) {
+  switch (phase) {
     case Phase::Deaf:  // Nothing counts until CS falls.
       break;
 
     case Phase::Start:  // Zeros may come before the start bit. A clock in the write cycle spoils the frame.
       if (clock < busy_until) {
-        state = Phase::Deaf;
+        phase = Phase::Deaf;
       } else if (bit) {
         shows_status = false;
-        state = Phase::Opcode;
+        phase = Phase::Opcode;
       }
       break;
 
     case Phase::Opcode:
       if (!Field_Complete(bit, 2)) break;
       opcode = std::exchange(field, 0);
-      state = Phase::Address;
+      phase = Phase::Address;
       break;
 
     case Phase::Address:
@@ -70,11 +70,11 @@ void Three_Wire_Chip::On_Clock(bool bit) {
       break;
 
     case Phase::Data:
-      if (Field_Complete(bit, 8)) state = Phase::Whole;
+      if (Field_Complete(bit, 8)) phase = Phase::Whole;
       break;
 
     case Phase::Whole:  // One bit too many: this is no frame.
-      state = Phase::Deaf;
+      phase = Phase::Deaf;
       break;
 
     case Phase::Send:  // Highest bit first, cell after cell for as long as the clock runs.
@@ -88,17 +88,17 @@ void Three_Wire_Chip::On_Clock(bool bit) {
 
 // Opcode and address decide what follows: data out, data in, or nothing.
 void Three_Wire_Chip::Begin_Instruction() {
-  code = Decode();
+  instruction = Decode();
   address = std::exchange(field, 0) % part.Bytes;
   out = false;  // The 0 before the first cell.
-  state = code == Instruction::Read                                 ? Phase::Send
-          : code == Instruction::Write || code == Instruction::Wral ? Phase::Data
-                                                                    : Phase::Whole;
+  phase = instruction == Instruction::Read                                        ? Phase::Send
+          : instruction == Instruction::Write || instruction == Instruction::Wral ? Phase::Data
+                                                                                  : Phase::Whole;
 }
 
 void Three_Wire_Chip::On_Deselect() {
-  if (state == Phase::Whole) Execute();
-  state = Phase::Deaf;
+  if (phase == Phase::Whole) Execute();
+  phase = Phase::Deaf;
   field = 0;
   bits = 0;
 }
@@ -107,7 +107,7 @@ void Three_Wire_Chip::On_Deselect() {
 void Three_Wire_Chip::On_Supply_Lost() {
   if (clock < busy_until)
     for (std::size_t i = 0; i < cycle_count; ++i) cells.Write(cycle_from + i, 0xFF);
-  state = Phase::Deaf;
+  phase = Phase::Deaf;
   field = 0;
   bits = 0;
   busy_until = 0;
@@ -132,7 +132,7 @@ Three_Wire_Chip::Instruction Three_Wire_Chip::Decode() const {
 }
 
 void Three_Wire_Chip::Execute() {
-  switch (code) {
+  switch (instruction) {
     case Instruction::Read:
       break;
     case Instruction::Ewen:

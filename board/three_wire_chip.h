@@ -41,11 +41,11 @@ class Three_Wire_Chip : public Chip {
   bool di = false;
   double clock = 0;  // Seconds of wire time.
 
-  Phase state = Phase::Deaf;
+  Phase phase = Phase::Deaf;
   unsigned field = 0;  // The opcode, address or data that comes in, highest bit first.
   int bits = 0;        // Those of the field, or of the cell that goes out, that have passed.
   unsigned opcode = 0;
-  Instruction code = Instruction::Read;  // The one in hand.
+  Instruction instruction = Instruction::Read;  // The one in hand.
   std::size_t address = 0;
   bool out = false;  // The level on DO while a cell goes out.
 

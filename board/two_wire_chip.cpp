@@ -37,7 +37,7 @@ void Two_Wire_Chip::On_Start() {
 // Starts the write cycle if whole bytes of data came in, and nothing behind them. The stop's own clock has
 // risen but not fallen, so it counts as no bit.
 void Two_Wire_Chip::On_Stop() {
-  if (state == Phase::Receive && bits == 0 && !page.empty()) {
+  if (phase == Phase::Receive && bits == 0 && !page.empty()) {
     for (const auto& [address, byte] : page) cells.Write(address, byte);
     cycle = std::exchange(page, {});
     busy_until = clock + part.WriteCycle;
@@ -57,7 +57,7 @@ void Two_Wire_Chip::On_Supply_Lost() {
 // A whole clock pulse is over and `bit` was on the data line; the chip changes the line only here, with the
 // clock low.
 void Two_Wire_Chip::On_Clock(bool bit) {
-  switch (state) {
+  switch (phase) {
     case Phase::Standby:  // The chip is not spoken to; only a start condition wakes it.
       break;
 
@@ -65,7 +65,7 @@ void Two_Wire_Chip::On_Clock(bool bit) {
       shift = static_cast<std::uint8_t>(shift << 1 | (bit ? 1 : 0));
       if (++bits < 8) break;
       pulls_sda = Accept(shift);
-      state = pulls_sda ? Phase::Acknowledge : Phase::Standby;
+      phase = pulls_sda ? Phase::Acknowledge : Phase::Standby;
       break;
 
     case Phase::Acknowledge:  // The master has seen the acknowledge; the line is free for the next byte.
@@ -81,7 +81,7 @@ void Two_Wire_Chip::On_Clock(bool bit) {
       }
       pulls_sda = false;
       Count_On(part.ReadRun);
-      state = Phase::Answer;
+      phase = Phase::Answer;
       break;
 
     case Phase::Answer:  // The master's word on the byte: low asks for the next one, high ends the read.
@@ -120,18 +120,18 @@ void Two_Wire_Chip::Count_On(std::size_t round) { pointer = pointer / round * ro
 
 void Two_Wire_Chip::Listen() {
   bits = 0;
-  state = Phase::Receive;
+  phase = Phase::Receive;
 }
 
 void Two_Wire_Chip::Send_Cell() {
   shift = cells.Cells()[pointer];
   bits = 0;
   pulls_sda = (shift & 0x80) == 0;
-  state = Phase::Send;
+  phase = Phase::Send;
 }
 
 void Two_Wire_Chip::Stand_By() {
-  state = Phase::Standby;
+  phase = Phase::Standby;
   pulls_sda = false;
   sampled.reset();
   page.clear();

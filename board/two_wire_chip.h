@@ -44,7 +44,7 @@ class Two_Wire_Chip : public Chip {
   double clock = 0;             // Seconds of wire time.
   double busy_until = 0;        // End of the write cycle.
   std::optional<bool> sampled;  // The data line at the clock's rise; empty until the clock has risen.
-  Phase state = Phase::Standby;
+  Phase phase = Phase::Standby;
   Meaning next = Meaning::Control;  // What the byte that comes in will be.
   bool pulls_sda = false;
   bool reading = false;    // The master's choice in the control byte.

@@ -1,5 +1,6 @@
 # The target finds this folder's headers under the folder's own name from the project's root, and none beside them:
 # "core/state/state.h". That is what makes an include tell where it comes from, and one that runs upward not build.
+# Leaves them in `headers`.
 function(wrenbit_hand_out target scope)
   cmake_path(RELATIVE_PATH CMAKE_CURRENT_SOURCE_DIR BASE_DIRECTORY ${PROJECT_SOURCE_DIR} OUTPUT_VARIABLE folder)
   set(link ${PROJECT_BINARY_DIR}/include/${target}/${folder})

@@ -6,7 +6,7 @@
 #include "core/state/number_text.h"
 #include "core/state/text_field_reader.h"
 #include "core/state/utf8_text.h"
-#include "engines/c24_block.h"
+#include "engines/c24_control.h"
 
 namespace wrenbit {
 namespace {

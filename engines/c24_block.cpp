@@ -1,6 +1,5 @@
 #include "engines/c24_block.h"
 
-#include <bit>
 #include <cstddef>
 #include <cstdint>
 
@@ -57,10 +56,6 @@ std::int32_t Write_Page(std::int32_t address, std::int32_t last, Block_Progress&
 }
 
 }  // namespace
-
-bool C24_Page_Usable(std::int32_t bytes) {
-  return bytes > 0 && std::has_single_bit(static_cast<std::uint32_t>(bytes));
-}
 
 void C24_AllRead() {
   if (C24_Refused() || !Begin()) return;

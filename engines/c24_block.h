@@ -1,16 +1,11 @@
 // A block between a 24Cxx chip and the image, from address 0 on: 2^AccessSize bytes, at most the chip's size.
-// From firmware 5.0 on whole bytes are commands of the board. The command lock must be in force.
-// A transfer runs through to its power-off whatever fails on the way; LinkError and panel 1 tell the outcome.
-// A block size above the chip's is corrected for good, in CmbSize and its stored setting.
+// From firmware 5.0 on whole bytes are commands of the board, but for the control byte of the read. The
+// command lock must be in force. A transfer runs through to its power-off whatever fails on the way;
+// LinkError and panel 1 tell the outcome. A block size above the chip's is corrected for good, in CmbSize and
+// its stored setting.
 #pragma once
 
-#include <cstdint>
-
 namespace wrenbit {
-
-// A power of two. Frames of any other length run across the ends of the chip's pages, and what is behind such
-// an end overwrites the page's start.
-bool C24_Page_Usable(std::int32_t bytes);
 
 // Into an image that the caller has made anew. On failure it holds what was read up to and including the byte
 // in hand, which is not to be trusted. Leaves the refilling of the grid to the caller.

@@ -1,5 +1,7 @@
 #include "engines/c24_control.h"
 
+#include <bit>
+
 #include "core/state/state.h"
 #include "engines/c24_bus.h"
 #include "image/image_buffer.h"
@@ -35,6 +37,10 @@ void C24_Start_Write(std::int32_t address, void (*send)(std::uint8_t byte)) {
 
 void ACK_Check() {
   if (!C24_ACK()) frmMain.sbStatusBar.Set_Panel(1, "24Cxx ACK error");
+}
+
+bool C24_Page_Usable(std::int32_t bytes) {
+  return bytes > 0 && std::has_single_bit(static_cast<std::uint32_t>(bytes));
 }
 
 bool C24_Refused() {

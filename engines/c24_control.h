@@ -28,6 +28,10 @@ void C24_Start_Write(std::int32_t address, void (*send)(std::uint8_t byte));
 // C24_ACK, with its text in panel 1 when the chip did not acknowledge. Does not stop the transfer.
 void ACK_Check();
 
+// A power of two. Frames of any other length run across the ends of the chip's pages, and what is behind such
+// an end overwrites the page's start.
+bool C24_Page_Usable(std::int32_t bytes);
+
 // Refuses a device with more bytes than its address form can reach. True when it did.
 bool C24_Refused();
 

@@ -33,11 +33,11 @@ std::string Target(const fs::path& link) {
 Com_Numbers::Com_Numbers(const fs::path& config_folder, fs::path system_folder)
     : ports(config_folder / "ports"), file(config_folder / "com-numbers"), system(std::move(system_folder)) {}
 
-fs::path Com_Numbers::Link(int number) const { return ports / ("COM" + std::to_string(number)); }
+fs::path Com_Numbers::Symlink(int number) const { return ports / ("COM" + std::to_string(number)); }
 
 bool Com_Numbers::Has_Link(int number) const {
   std::error_code ignored;
-  return fs::is_symlink(Link(number), ignored) && !Lock_Was_Left_Behind(Link(number) += ".lock");
+  return fs::is_symlink(Symlink(number), ignored) && !Lock_Was_Left_Behind(Symlink(number) += ".lock");
 }
 
 std::map<int, Serial_Device> Com_Numbers::Take_Owners(const Com_Owners& owners,
@@ -67,7 +67,7 @@ std::optional<Serial_Device> Com_Numbers::Device(int number) const {
   if (number < 1 || number > kComPorts) return std::nullopt;
   std::vector<Serial_Device> devices = In_Com_Order(Serial_Devices_Present(system));
   if (Has_Link(number)) {
-    const std::string path = Target(Link(number));
+    const std::string path = Target(Symlink(number));
     if (path.empty()) return std::nullopt;
     const auto known = std::ranges::find(devices, path, &Serial_Device::Path);
     return known == devices.end() ? Serial_Device{.Path = path} : *known;
@@ -81,7 +81,7 @@ std::optional<Serial_Device> Com_Numbers::Device(int number) const {
   std::size_t free_before = 0;
   for (int other = 1; other <= kComPorts; ++other) {
     const bool linked = Has_Link(other);
-    if (linked) std::erase_if(devices, [&](const auto& d) { return d.Path == Target(Link(other)); });
+    if (linked) std::erase_if(devices, [&](const auto& d) { return d.Path == Target(Symlink(other)); });
     if (other < number && !linked && !owners.contains(other)) ++free_before;
   }
   if (free_before >= devices.size()) return std::nullopt;

@@ -36,7 +36,7 @@ class Com_Numbers {
   // The owners that are present, by their numbers: taken out of the devices.
   std::map<int, Serial_Device> Take_Owners(const Com_Owners& owners,
                                            std::vector<Serial_Device>& devices) const;
-  std::filesystem::path Link(int number) const;
+  std::filesystem::path Symlink(int number) const;
   bool Has_Link(int number) const;
 
   const std::filesystem::path ports, file, system;

@@ -16,7 +16,7 @@ struct Serial_Device {
   std::string Maker = {};
   std::string Product = {};
   // Received bytes that a built-in port's UART collects before it hands any on; 0 when it does not tell.
-  int Receive_Trigger = 0;
+  int ReceiveTrigger = 0;
   // What survives replugging. A USB device's vendor, product and interface, "0403:6001:1.0", and its serial
   // number, which it may not have; empty for others.
   std::string Kind = {};

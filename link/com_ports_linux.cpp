@@ -68,7 +68,7 @@ std::vector<Serial_Device> Serial_Devices_Present(const std::filesystem::path& s
     if (int type = 0; type_file >> type && type == 0) continue;
     Serial_Device device{.Path = "/dev/" + tty->path().filename().string(),
                          .Usb = hardware.string().find("/usb") != std::string::npos};
-    device.Receive_Trigger = Number_In(tty->path() / "rx_trig_bytes");
+    device.ReceiveTrigger = Number_In(tty->path() / "rx_trig_bytes");
     device.Place = tty->path().filename().string();
     if (device.Usb) Describe_Usb(hardware, device);
     present.push_back(std::move(device));

@@ -1,14 +1,9 @@
 #include "link/handshake.h"
 
-#include <algorithm>
-#include <array>
-#include <cstddef>
 #include <cstdint>
-#include <limits>
 #include <optional>
 #include <string>
 #include <string_view>
-#include <vector>
 
 #include "core/state/code_page_932.h"
 #include "core/state/number_text.h"
@@ -18,28 +13,12 @@
 #include "link/accelerators.h"
 #include "link/com_ports.h"
 #include "link/failure.h"
+#include "link/identity.h"
 #include "link/mscomm.h"
-#include "link/reply_wait.h"
 #include "shell/controls/frm_main.h"
 
 namespace wrenbit {
 namespace {
-
-// The board's answer to "?": the word, five free characters, the version as text, and two bytes or more
-// behind.
-constexpr std::string_view kWord = "TOLVEX";
-constexpr std::size_t kTextLength = 15;
-constexpr std::size_t kVersionAt = 11;
-constexpr std::size_t kReplyLength = 17;
-constexpr int kSettle = 50;      // Milliseconds from the first query to the second.
-constexpr int kSettleStep = 10;  // In which a port that goes is noticed.
-constexpr std::size_t kAnyNumber = std::numeric_limits<std::size_t>::max();
-
-// A board that sends its answer in pieces takes up to 200 ms from one to the next, and a second for all.
-constexpr double kPiecePause = 0.25;  // Seconds.
-// Seconds. One whose answer takes longer sends pieces: query and answer are 19 ms on the wire, and an adapter
-// adds up to 16.
-constexpr double kInOnePiece = 0.040;
 
 constexpr const char* kLimits256 =
     "パフォーマンスの関係で、アクセスサイズを[AllRead]=２５６バイト,[AllWrite]=２５６バイトに制限しています。"
@@ -105,14 +84,6 @@ Port_Fault Open_Chosen(const Port_Choice& port) {
   return MSComm1.Open();
 }
 
-// False when the system would not take it.
-bool Query() {
-  constexpr std::array<std::uint8_t, 1> kQuery{'?'};
-  MSComm1.Clear_InBuffer();
-  MSComm1.Resume();
-  return MSComm1.Output(kQuery);
-}
-
 const char* Limits_Text() {
   if (ProgrammerVersion == 0) return "";
   return Has_Accelerators() ? kLimits4096 : kLimits256;
@@ -129,43 +100,6 @@ std::string Shown(std::string_view bytes) {
   return shown;
 }
 
-std::string Received() {
-  const std::vector<std::uint8_t> bytes = MSComm1.Input();
-  return {bytes.begin(), bytes.end()};
-}
-
-// Asks the board what it is, twice; the second answer counts. Nothing when it is too short or does not come
-// within its second. All that the board has said is read or dropped afterwards.
-std::optional<std::string> Ask_Identity() {
-  // The first query wakes the board and clears its parser; what it has said by then is dropped.
-  Query();
-  for (int slept = 0; slept < kSettle && !MSComm1.Lost(); slept += kSettleStep) Sleep(kSettleStep);
-  DoEvents();
-  const std::string first_answer = Received();
-  const double asked = Timer();
-  if (Query()) Await_Bytes(kReplyLength, kPiecePause);
-  if (MSComm1.InBufferCount() < kReplyLength) return std::nullopt;
-
-  const double took = Timer() - asked;
-  std::string said = Received();
-  // What of the answer is still to come must not pass for the reply to the next command.
-  if (first_answer.size() >= kReplyLength && said.starts_with(kWord)) {
-    MSComm1.Learn_Pace(1 + kReplyLength, took);
-    Await_Rest(first_answer.size() - std::min(first_answer.size(), said.size()), kPiecePause);
-  } else {  // A first answer that comes late could pass for a fast second one.
-    Await_Rest(kAnyNumber, took > kInOnePiece || !first_answer.empty() ? kPiecePause : kPause);
-  }
-  said += Received();
-  MSComm1.Forget_Unasked();
-
-  // What was left of a first answer stands before the second. An answer that does not begin with the word is
-  // no board's, wherever the word stands in it.
-  if (!first_answer.empty() && kWord.starts_with(first_answer.substr(0, kWord.size())))
-    if (const std::size_t word = said.find(kWord); word != said.npos) said.erase(0, word);
-  if (said.size() < kReplyLength) return std::nullopt;
-  return said.substr(0, kTextLength);
-}
-
 }  // namespace
 
 void Read_Version() {
@@ -176,7 +110,8 @@ void Read_Version() {
     return Fail_Unanswered(port, fault);
   const std::optional<std::string> identity = Ask_Identity();
   if (!identity) return Fail_Unanswered(port, MSComm1.Lost() ? Port_Fault::Gone : Port_Fault::None);
-  if (!identity->starts_with(kWord)) return Fail_Without_Board(port, "");  // An unknown board is not driven.
+  if (!identity->starts_with(kIdentityWord))
+    return Fail_Without_Board(port, "");  // An unknown board is not driven.
 
   MSComm1.Keep_Number();
   ProgrammerVersionText = Shown(*identity);

@@ -17,7 +17,7 @@ void MSComm::Attach(Serial_Backend* port) {
   backend = port;
   if (!port) return;
   port->On_Lost = [this] {
-    if (open && Gone) Gone();
+    if (open && On_Lost) On_Lost();
   };
 }
 

@@ -5,7 +5,7 @@
 namespace wrenbit {
 
 Form::Form(int client_width, int client_height, std::string first_caption)
-    : Captioned(*this, std::move(first_caption)), Client_Width(client_width), Client_Height(client_height) {
+    : Captioned(*this, std::move(first_caption)), ClientWidth(client_width), ClientHeight(client_height) {
   Set_Visible(false);
 }
 

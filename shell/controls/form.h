@@ -50,8 +50,8 @@ class Form : public Captioned {
   // All that lies on the form, in the order in which it was made.
   const std::vector<Control*>& Controls() const { return controls; }
 
-  const int Client_Width;
-  const int Client_Height;
+  const int ClientWidth;
+  const int ClientHeight;
 
   std::function<void()> Form_KeyPress;  // A key that no control took.
   std::function<void()> Form_Load;

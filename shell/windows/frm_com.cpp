@@ -38,8 +38,8 @@ std::string Device_Text(int entry) {
     add(device->Serial.empty() ? device->Place : device->Serial);
     add("接続されていません。");
   }
-  if (device->Receive_Trigger > 1)
-    text += "  受信を" + std::to_string(device->Receive_Trigger) + "バイトまとめるので応答が遅れます。";
+  if (device->ReceiveTrigger > 1)
+    text += "  受信を" + std::to_string(device->ReceiveTrigger) + "バイトまとめるので応答が遅れます。";
   return text;
 }
 
@@ -98,7 +98,7 @@ void Wire_frmCom() {
   frmCom.Cmb_com.Click = Cmb_com_Click;
   frmCom.Cmb_com.Tip = Device_Text;
   frmCom.Cmd_Close.Click = Cmd_Close_Click;
-  MSComm1.Gone = Port_Gone;
+  MSComm1.On_Lost = Port_Gone;
   // Unseen: the user's next look at the window opens no port then.
   Handshake_Begins = [] { frmCom.Ensure_Loaded(); };
   frmCom.CheckRTS.Click = [] {

@@ -61,7 +61,7 @@ TEST_F(Com_Ports, UsbAdaptersComeFirstInTheOrderOfTheirNumbersAndTheSystemTellsW
   std::string told;
   for (const Serial_Device& d : In_Com_Order(Serial_Devices_Present(system)))
     told += d.Path + (d.Usb ? " USB " : " ") + d.Maker + ":" + d.Product + " " +
-            std::to_string(d.Receive_Trigger) + " " + d.Kind + " " + d.Serial + " " +
+            std::to_string(d.ReceiveTrigger) + " " + d.Kind + " " + d.Serial + " " +
             fs::path(d.Place).filename().string() + "\n";
   EXPECT_EQ(told,
             "/dev/ttyUSB2 USB : 0 2341::1.1.3  usb-2:1.1.3\n"

@@ -67,7 +67,7 @@ TEST_F(Port_Window, APortThatGoesWhileTheWindowHoldsItIsTold) {
 TEST_F(Port_Window, EachEntryTellsItsDevice) {
   bench.Devices = {{1, {"/dev/ttyUSB0", true, "Maker", "UART bridge"}},
                    {3, {.Maker = "Maker", .Serial = "A5"}},
-                   {20, {.Path = "/dev/ttyS0", .Receive_Trigger = 8}}};
+                   {20, {.Path = "/dev/ttyS0", .ReceiveTrigger = 8}}};
   EXPECT_EQ(frmCom.Cmb_com.Tip(0), "/dev/ttyUSB0  Maker  UART bridge");
   EXPECT_EQ(frmCom.Cmb_com.Tip(1), "この番号のシリアルポートはありません。");
   EXPECT_EQ(frmCom.Cmb_com.Tip(2), "Maker  A5  接続されていません。");

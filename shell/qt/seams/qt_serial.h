@@ -12,7 +12,7 @@
 
 #include "link/com_numbers.h"
 #include "link/com_ports.h"
-#include "link/mscomm.h"
+#include "link/serial_backend.h"
 
 namespace wrenbit {
 

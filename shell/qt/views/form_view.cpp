@@ -67,7 +67,7 @@ Form_View::~Form_View() {
 
 void Form_View::Make_Views() {
   auto* client = new QWidget;
-  client->setFixedSize(Pixels(form.Client_Width), Pixels(form.Client_Height));
+  client->setFixedSize(Pixels(form.ClientWidth), Pixels(form.ClientHeight));
   setCentralWidget(client);
   for (Control* control : form.Controls()) {
     QWidget* holder = control->Container() != &form ? View_Of(*control->Container())
