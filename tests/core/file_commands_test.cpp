@@ -1,17 +1,10 @@
 // Load and save through the dialogs: texts, titles, remembered folders, and what a refusal leaves behind.
 #include "core/file_commands.h"
 
-#include <gtest/gtest.h>
-
-#include <cstddef>
-#include <cstdint>
 #include <filesystem>
-#include <vector>
 
 #include "core/state/app.h"
-#include "core/state/state.h"
 #include "editor/hex_grid.h"
-#include "shell/controls/frm_main.h"
 #include "tests/support/temporary_folder.h"
 #include "tests/support/test_bench.h"
 
@@ -37,7 +30,6 @@ class File_Commands : public testing::Test {
     Buffer_Init();
   }
   void TearDown() override { dialog.View_Open = dialog.View_Save = nullptr; }
-  static const std::string& Message() { return frmMain.sbStatusBar.Panel(1); }
 };
 
 TEST_F(File_Commands, ASavedImageComesBack) {
@@ -45,7 +37,7 @@ TEST_F(File_Commands, ASavedImageComesBack) {
   const Bytes image = ImageBuffer;
   answer = folder / "a.hex";
   mnuFileSaveAs_Click();
-  EXPECT_EQ(Message(), "ファイルに保存終了。 ");
+  EXPECT_EQ(Panel(1), "ファイルに保存終了。 ");
   EXPECT_EQ(bench.Stored["SAVE_DIR"], folder.Path());
 
   Buffer_Init();
@@ -53,7 +45,7 @@ TEST_F(File_Commands, ASavedImageComesBack) {
   mnuFileOpen_Click();
   EXPECT_EQ(ImageBuffer, image);
   EXPECT_EQ(frmMain.MSFGrid1.Cell(8, 16), "0x7D");
-  EXPECT_EQ(Message(), "ファイルオープン完了");
+  EXPECT_EQ(Panel(1), "ファイルオープン完了");
   EXPECT_EQ(frmMain.Caption(), "Title  " + answer);
   EXPECT_EQ(bench.Stored["OPEN_DIR0"], folder.Path());
   EXPECT_EQ(frmMain.MousePointer(), Pointer::Default);
@@ -69,10 +61,10 @@ TEST_F(File_Commands, ACancelledOrMissingFileChangesNothing) {
     SCOPED_TRACE(path);
     answer = path;
     mnuFileOpen_Click();
-    EXPECT_EQ(Message(), "ファイルをオープンできませんでした。");
+    EXPECT_EQ(Panel(1), "ファイルをオープンできませんでした。");
   }
   mnuFileSaveAs_Click();
-  EXPECT_EQ(Message(), "ファイル保存をキャンセルしました。");
+  EXPECT_EQ(Panel(1), "ファイル保存をキャンセルしました。");
   EXPECT_EQ(ImageBuffer[0], 1);
   EXPECT_EQ(frmMain.Caption(), caption);
   EXPECT_TRUE(bench.Stored.empty());
@@ -83,8 +75,8 @@ TEST_F(File_Commands, AnExistingFileIsAskedForAndStandsWhenRefused) {
   Put_Content(answer, "old");
   bench.Box_Answer = false;
   mnuFileSaveAs_Click();
-  EXPECT_EQ(bench.Boxes, std::vector<std::string>{"上書き保存 | ファイルが存在します。上書きしますか？"});
-  EXPECT_EQ(Message(), "ファイル保存をキャンセルしました。");
+  EXPECT_EQ(bench.Boxes, Texts{"上書き保存 | ファイルが存在します。上書きしますか？"});
+  EXPECT_EQ(Panel(1), "ファイル保存をキャンセルしました。");
   EXPECT_EQ(Content(answer), "old");
   EXPECT_TRUE(bench.Stored.empty());
 
@@ -101,7 +93,7 @@ TEST_F(File_Commands, ADeviceWithoutASizeTakesNoFileAndOverwritesNone) {
   Buffer_Init();
   for (const auto command : {mnuFileOpen_Click, mnuFileSaveAs_Click}) {
     command();
-    EXPECT_EQ(Message(), "デバイスのメモリサイズが正しくありません。");
+    EXPECT_EQ(Panel(1), "デバイスのメモリサイズが正しくありません。");
     EXPECT_EQ(Content(answer), "good");
   }
 }
@@ -109,9 +101,9 @@ TEST_F(File_Commands, ADeviceWithoutASizeTakesNoFileAndOverwritesNone) {
 TEST_F(File_Commands, WhatCannotBeWrittenIsToldWithItsReason) {
   answer = folder / "no such folder/a.hex";
   mnuFileSaveAs_Click();
-  EXPECT_EQ(bench.Boxes, std::vector<std::string>{App.Title + " | ファイルを保存できませんでした。\r\n" +
-                                                  answer + "\r\n保存先のフォルダが見つかりません。"});
-  EXPECT_EQ(Message(), "ファイルを保存できませんでした。");
+  EXPECT_EQ(bench.Boxes, Texts{App.Title + " | ファイルを保存できませんでした。\r\n" + answer +
+                               "\r\n保存先のフォルダが見つかりません。"});
+  EXPECT_EQ(Panel(1), "ファイルを保存できませんでした。");
   EXPECT_EQ(frmMain.MousePointer(), Pointer::Default);
 }
 

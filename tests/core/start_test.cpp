@@ -2,17 +2,11 @@
 // last run.
 #include "core/start.h"
 
-#include <gtest/gtest.h>
-
 #include <filesystem>
-#include <string>
 #include <utility>
-#include <vector>
 
 #include "core/state/app.h"
-#include "core/state/state.h"
 #include "shell/controls/windows.h"
-#include "tests/support/fresh_state.h"
 #include "tests/support/temporary_folder.h"
 #include "tests/support/test_bench.h"
 
@@ -48,9 +42,9 @@ TEST_F(Start, TheFirstRunOpensWithTheFirstRowAndTheSmallestBlock) {
       {frmMain.Label_wrenbitini.Caption(), "WRENBIT.INI  Ver 1.00"},
       {frmAbout.lblVersion.Caption(), "Ver 1.2.10"},
       {frmAbout.lblDisclaimer.Caption(), "ｻﾎﾟｰﾄﾍﾟｰｼﾞ : https://wrenbit.example/support"},
-      {frmMain.sbStatusBar.Panel(1) + frmMain.sbStatusBar.Panel(2), ""},
-      {frmMain.sbStatusBar.Panel(3), "アドレス:0"},
-      {frmMain.sbStatusBar.Panel(4), "2Kbit"},
+      {Panel(1) + Panel(2), ""},
+      {Panel(3), "アドレス:0"},
+      {Panel(4), "2Kbit"},
       {frmMain.Text_modify_hex.Text(), "FF"},
   };
   for (const auto& [shown, wanted] : texts) EXPECT_EQ(shown, wanted);
@@ -89,9 +83,8 @@ TEST_F(Start, ASecondInstanceEndsWithoutAWordAndWithoutACatalogueItSaysSo) {
   EXPECT_FALSE(Main());
   const std::string here = kBox + folder.Path() + "/";
   const std::string stop = "         \r\nＷＲＥＮＢＩＴプログラマーの起動を中止しました。";
-  EXPECT_EQ(bench.Boxes, (std::vector<std::string>{
-                             here + "内に wrenbit.iniファイルがありませんので" + stop,
-                             here + "内の wrenbit.iniファイルにデバイスの行がありませんので" + stop}));
+  EXPECT_EQ(bench.Boxes, (Texts{here + "内に wrenbit.iniファイルがありませんので" + stop,
+                                here + "内の wrenbit.iniファイルにデバイスの行がありませんので" + stop}));
   EXPECT_FALSE(frmMain.Loaded());
   EXPECT_TRUE(bench.Stored.empty());
   EXPECT_TRUE(frmSplash.Visible()) << "behind the message";
@@ -101,14 +94,13 @@ TEST_F(Start, BadRowsAreToldOnceAndTheGoodOnesServe) {
   Catalogue_File("A I2C 2 eight\n24C02 I2C 2 8 8 1 0 2Kbit\n");
   bench.Stored["DUT"] = "1";
   // Dismisses the splash; the start goes on.
-  bool dismissed = false;
+  bool seen = false;
   bench.On_Yield = [&] {
-    dismissed = dismissed || frmSplash.Visible();
+    seen = seen || frmSplash.Visible();
     frmSplash.Form_KeyPress();
     EXPECT_FALSE(frmSplash.Visible());
   };
-  EXPECT_TRUE(Main());
-  EXPECT_TRUE(dismissed);
+  EXPECT_TRUE(Main() && seen);
   ASSERT_EQ(bench.Boxes.size(), 1U);
   EXPECT_NE(bench.Boxes[0].find("1行目: A の列3"), std::string::npos);
   EXPECT_EQ(frmMain.Combo_device.Text(), "24C02    I2C");

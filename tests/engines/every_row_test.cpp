@@ -1,15 +1,9 @@
 // The same transfers for every row of the delivered catalogue, on both firmware routes: what lands in the
 // chip is the image, and what lands in the image is the chip.
-#include <cstddef>
-#include <cstdint>
 #include <ostream>
-#include <string>
-#include <vector>
 
 #include "core/catalogue.h"
 #include "core/catalogue_text.h"
-#include "core/state/state.h"
-#include "core/transfer_commands.h"
 #include "tests/support/chip_bench.h"
 #include "tests/support/same_bytes.h"
 #include "tests/support/temporary_folder.h"
@@ -71,11 +65,7 @@ TEST_P(Every_Row, AByteGoesToItsOwnCellAndComesFromIt) {
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(Catalogue, Every_Row, testing::ValuesIn(All_Cases()), [](const auto& test) {
-  std::string name = testing::PrintToString(test.param);
-  std::erase(name, '.');
-  return name;
-});
+INSTANTIATE_TEST_SUITE_P(Catalogue, Every_Row, testing::ValuesIn(All_Cases()), Case_Name<Case>);
 
 }  // namespace
 }  // namespace wrenbit

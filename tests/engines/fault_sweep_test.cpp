@@ -8,11 +8,8 @@
 #include <vector>
 
 #include "board/faulty_board.h"
-#include "core/state/state.h"
-#include "core/transfer_commands.h"
 #include "editor/hex_grid.h"
 #include "image/hex_text.h"
-#include "shell/controls/frm_main.h"
 #include "tests/support/chip_bench.h"
 
 namespace wrenbit {
@@ -24,32 +21,33 @@ constexpr int kMemSize = 6;
 constexpr std::size_t kDevice = 64, kBlock = 16;
 constexpr std::size_t kByteAt = 37;
 
-struct Transfer {
-  const char* Name;
-  void (*Run)();
-  bool Block, Writes;
-  const char* Firmware;
-  // Answers that a dead board may be waited for, a second each, by AddressMode: three-wire, short and long
-  // form. With the flag set, power on and off, start and stop ask for one each; a read of a block ends at the
-  // byte in hand, a write of one at the page (24Cxx) or the byte (93Cxx), the byte transfers at their end.
-  std::size_t Waits[3];
-};
-const Transfer kTransfers[] = {
-    {"block_read", Cmd_READ_all_Click, true, false, "4.90", {10, 16, 17}},
-    {"block_read", Cmd_READ_all_Click, true, false, "5.00", {5, 11, 13}},
-    {"block_write", Cmd_WRITE_all_Click, true, true, "4.90", {2, 14, 23}},
-    {"block_write", Cmd_WRITE_all_Click, true, true, "5.00", {5, 24, 42}},
-    {"byte_read", Cmd_READ_single_Click, false, false, "4.90", {10, 16, 17}},
-    {"byte_read", Cmd_READ_single_Click, false, false, "5.00", {10, 16, 17}},
-    {"byte_write", Cmd_WRITE_single_Click, false, true, "4.90", {2, 7, 8}},
-    {"byte_write", Cmd_WRITE_single_Click, false, true, "5.00", {2, 7, 8}},
-};
-struct Form {
+// Answers that a dead board may be waited for, a second each, by transfer, firmware and AddressMode:
+// three-wire, short and long form. With the flag set, power on and off, start and stop ask for one each; a
+// read of a block ends at the byte in hand, a write of one at the page (24Cxx) or the byte (93Cxx), the byte
+// transfers at their end.
+constexpr std::size_t kWaits[][2][3] = {{{10, 16, 17}, {5, 11, 13}},
+                                        {{2, 14, 23}, {5, 24, 42}},
+                                        {{10, 16, 17}, {10, 16, 17}},
+                                        {{2, 7, 8}, {2, 7, 8}}};
+
+struct Case {
   const char* Chip;
-  int Family, Page, AddressMode, AddressBits;  // Two pages make a block, or one is larger than it.
+  Command Transfer;
+  const char* Firmware;
+  const std::size_t* Waits;  // By AddressMode.
 };
-const Form kForms[] = {
-    {"24C02", 2, 8, 1, 0}, {"24C32", 2, 32, 2, 0}, {"AT93C46", 3, 1, 0, 7}, {"AT93C86", 3, 1, 0, 11}};
+void PrintTo(const Case& c, std::ostream* out) {
+  *out << c.Chip << "_" << c.Firmware << "_" << c.Transfer.Name;
+}
+
+std::vector<Case> All_Cases() {
+  std::vector<Case> cases;
+  for (const char* chip : {"24C02", "24C32", "AT93C46", "AT93C86"})  // Pages above and below the block.
+    for (std::size_t i = 0; i < std::size(kCommands); ++i)
+      for (const bool from_5 : {false, true})
+        cases.push_back({chip, kCommands[i], from_5 ? "5.00" : "4.90", kWaits[i][from_5]});
+  return cases;
+}
 
 enum class Ends { Noticed, Right_Or_Noticed, Right, Perhaps_Wrong };
 
@@ -100,20 +98,12 @@ bool Grid_Shows(const Bytes& image) {
   return true;
 }
 
-struct Case {
-  Transfer Command;
-  Form Device;
-};
-void PrintTo(const Case& c, std::ostream* out) {
-  *out << c.Device.Chip << "_" << c.Command.Firmware << "_" << c.Command.Name;
-}
-
 // One run of a transfer. Image, grid, edit panel and chip are filled, each byte other than its neighbours and
 // than its counterpart.
 class One_Run {
  public:
-  explicit One_Run(const Case& of) : C(of), Bench(C.Device.Chip, C.Command.Firmware) {
-    Select_Device(C.Device.Family, kMemSize, C.Device.Page, C.Device.AddressMode, C.Device.AddressBits);
+  explicit One_Run(const Case& of) : C(of), Bench(C.Chip, C.Firmware) {
+    Select_Device(DeviceFamily, kMemSize, PageSize, AddressMode, AddressBits);
     frmMain.CmbSize.Set_ListIndex(0);
     Bench.Fill_Chip(1);
     Bench.Fill_Image(2);
@@ -123,9 +113,9 @@ class One_Run {
     image = wanted_image = ImageBuffer;
     chip = wanted_chip = Bench.Chip_Contents();
     shown = frmMain.Text_modify_hex.Text();
-    if (C.Command.Block && !C.Command.Writes) wanted_image.assign(kDevice, 0xFF);
+    if (C.Transfer.Block && !C.Transfer.Writes) wanted_image.assign(kDevice, 0xFF);
     for (std::size_t at = 0; at < kDevice; ++at)
-      if (Asked(at)) C.Command.Writes ? wanted_chip[at] = image[at] : wanted_image[at] = chip[at];
+      if (Asked(at)) C.Transfer.Writes ? wanted_chip[at] = image[at] : wanted_image[at] = chip[at];
     Bench.Board = &Faulty;
   }
 
@@ -142,10 +132,10 @@ class One_Run {
       Flashed = Flashed || Panel(1) == "93Cxx DATA Read on PortB error";
       if (fault.Pause && Faulty.Met() && ++yields == 4) Bench.Pass(0.1);
     };
-    C.Command.Run();
+    C.Transfer.Run();
   }
 
-  bool Said_To_Be_Done() const { return C.Command.Block ? Panel(1).ends_with("sec)") : Panel(1) == "Finsh"; }
+  bool Said_To_Be_Done() const { return C.Transfer.Block ? Panel(1).ends_with("sec)") : Panel(1) == "Finsh"; }
   // Those at the start of the image that are the chip's.
   std::size_t Good_Bytes() const {
     std::size_t at = 0;
@@ -157,16 +147,13 @@ class One_Run {
   // What of all that must hold does not, in words; empty when everything does.
   std::string Violation(const Fault& fault) const {
     // The way back, whatever happened.
-    if (Bench.Is_Open()) return "the port is open";
-    for (const Control* control : frmMain.Controls())
-      if (!control->Reachable()) return "a control is locked";
-    if (frmMain.ActiveControl() != &frmMain.Text_modify_hex) return "the focus is elsewhere";
+    if (const std::string held = Bench.Still_Held(); !held.empty()) return held;
     if (frmMain.MousePointer() != Pointer::Default) return "the hourglass is up";
 
     // Time.
     if (Bench.LongestGap > 1.001) return "a wait of " + std::to_string(Bench.LongestGap) + " s";
     const bool answers_may_come = fault.Refused == 0 && fault.Board != Fault::Out_Of_Reach;
-    const std::size_t most = !answers_may_come ? 0 : On_The_Bus() ? C.Command.Waits[C.Device.AddressMode] : 1;
+    const std::size_t most = !answers_may_come ? 0 : On_The_Bus() ? C.Waits[AddressMode] : 1;
     if (Bench.SilentSeconds > most) return std::to_string(Bench.SilentSeconds) + " waits for an answer";
 
     // The socket.
@@ -194,19 +181,19 @@ class One_Run {
     if (frmMain.CmbSize.ListIndex() != 0) return "the block has another size";
     if (ImageBuffer.size() != kDevice) return "the image has another size";
     if (!Chip_Untouched_Elsewhere()) return "a cell outside the block has changed";
-    const bool read = !C.Command.Writes;
+    const bool read = !C.Transfer.Writes;
     if (done && !Data_Right() && !(read && fault.As == Ends::Perhaps_Wrong))
       return "wrong data, said to be done";
     for (std::size_t at = 0; at < kDevice; ++at)
       if (done && !Asked(at) && ImageBuffer[at] != wanted_image[at])
         return "a byte not asked for has changed";
-    if ((!read || (!done && !C.Command.Block)) && ImageBuffer != image) return "the image has changed";
-    if (read && C.Command.Block && !done && !Read_So_Far(fault)) return "the image is no part of the chip";
+    if ((!read || (!done && !C.Transfer.Block)) && ImageBuffer != image) return "the image has changed";
+    if (read && C.Transfer.Block && !done && !Read_So_Far(fault)) return "the image is no part of the chip";
     if (Bench.Ended) return {};
     if (!Grid_Shows(read && done ? ImageBuffer : image)) return "the grid shows something else";
     const bool grey = !frmMain.MSFGrid1.OutOfDate().empty() && !frmMain.Text_modify_hex.OutOfDate().empty() &&
                       !frmMain.LblCheckSUM.OutOfDate().empty();
-    if (grey != (!done && read && C.Command.Block)) return "the grid does not tell that it is not the image";
+    if (grey != (!done && read && C.Transfer.Block)) return "the grid does not tell that it is not the image";
     if (!done && read && frmMain.Text_modify_hex.Text() != shown) return "the edit panel has changed";
     return {};
   }
@@ -217,7 +204,7 @@ class One_Run {
   bool Flashed = false;  // The one message of the three-wire bus that a good end replaces.
 
  private:
-  bool Asked(std::size_t at) const { return C.Command.Block ? at < kBlock : at == kByteAt; }
+  bool Asked(std::size_t at) const { return C.Transfer.Block ? at < kBlock : at == kByteAt; }
   bool On_The_Bus() const { return !Bench.Commands.empty() && Bench.Commands.back().front() == 'm'; }
 
   // In a three-wire transfer the chip is let go of before.
@@ -228,7 +215,7 @@ class One_Run {
     auto last = Bench.Commands.rbegin();
     while (last != Bench.Commands.rend() && last->size() == 3) ++last;  // Its read-backs.
     if (!std::equal(k_off.rbegin(), k_off.rend(), last)) return false;
-    const bool asked = deselected && C.Device.Family == 3;
+    const bool asked = deselected && DeviceFamily == 3;
     return !asked || *(last + std::ssize(k_off)) == Bytes{'m', 'w', 'c', 0x80};
   }
 
@@ -240,7 +227,7 @@ class One_Run {
       return std::string("プログラマ接続確認エラー。") + (answered ? "" : "【1】") + reason;
     }
     const char port = static_cast<char>(Bench.Commands.back()[2] - 'a' + 'A');
-    return (C.Device.Family == 2 ? "24Cxx" : "93Cxx") + std::string(" Power on Port") + port + " error" +
+    return (DeviceFamily == 2 ? "24Cxx" : "93Cxx") + std::string(" Power on Port") + port + " error" +
            (Faulty.Gone() ? " ポートが切断されました。" : "");
   }
 
@@ -269,7 +256,7 @@ struct Fault_Sweep : testing::TestWithParam<Case> {};
 
 TEST_P(Fault_Sweep, EveryFaultAtEveryPlace) {
   std::size_t runs = 0, untold = 0, flashed = 0;
-  const bool reads_block = GetParam().Command.Block && !GetParam().Command.Writes;
+  const bool reads_block = GetParam().Transfer.Block && !GetParam().Transfer.Writes;
   for (const Fault& fault : All_Faults()) {
     bool met = true;
     std::size_t farthest = 0;
@@ -314,7 +301,7 @@ TEST_P(Fault_Sweep, AtEveryYieldTheWindowCanBeClosedAndNothingElseBeReached) {
       frmMain.Close();
       ASSERT_FALSE(run.Bench.Ended);
     };
-    GetParam().Command.Run();
+    GetParam().Transfer.Run();
     met = yields > closings;
     ASSERT_EQ(run.Bench.Ended, met);
     ASSERT_EQ(LinkError, met ? 1 : 0) << "it ends at the next look";
@@ -325,18 +312,7 @@ TEST_P(Fault_Sweep, AtEveryYieldTheWindowCanBeClosedAndNothingElseBeReached) {
   std::cout << "sweep: " << testing::PrintToString(GetParam()) << " closings " << closings << '\n';
 }
 
-std::vector<Case> All_Cases() {
-  std::vector<Case> cases;
-  for (const Form& form : kForms)
-    for (const Transfer& transfer : kTransfers) cases.push_back({transfer, form});
-  return cases;
-}
-
-INSTANTIATE_TEST_SUITE_P(All, Fault_Sweep, testing::ValuesIn(All_Cases()), [](const auto& test) {
-  std::string name = testing::PrintToString(test.param);
-  std::erase(name, '.');
-  return name;
-});
+INSTANTIATE_TEST_SUITE_P(All, Fault_Sweep, testing::ValuesIn(All_Cases()), Case_Name<Case>);
 
 }  // namespace
 }  // namespace wrenbit

@@ -33,22 +33,34 @@ void Chip_Bench::Fill_Chip(unsigned seed) {
 
 void Chip_Bench::Fill_Image(unsigned seed) { ImageBuffer = Pattern(ImageBuffer.size(), seed); }
 
+std::string Chip_Bench::Still_Held() const {
+  if (Is_Open()) return "the port is open";
+  for (const Control* control : frmMain.Controls())
+    if (!control->Reachable()) return "a control is locked";
+  return frmMain.ActiveControl() == &frmMain.Text_modify_hex ? "" : "the focus is elsewhere";
+}
+
 void Select_Device(int family, int mem_size, int page_size, int address_mode, int address_bits) {
-  Device_Row row;
-  row[0] = "device";
-  row[2] = std::to_string(family);
-  row[3] = std::to_string(mem_size);
-  row[4] = std::to_string(page_size);
-  row[5] = std::to_string(address_mode);
-  row[6] = std::to_string(address_bits);
-  row[7] = "density";
+  Device_Row row{"device",
+                 "",
+                 std::to_string(family),
+                 std::to_string(mem_size),
+                 std::to_string(page_size),
+                 std::to_string(address_mode),
+                 std::to_string(address_bits),
+                 "density"};
   Select_Row(row);
 }
 
-void Select_Row(const Device_Row& row) {
-  DeviceTable = {row};
+void Offer_Devices(const std::vector<Device_Row>& rows) {
+  DeviceTable = rows;
+  frmMain.Ensure_Loaded();
   frmMain.Combo_device.Clear();
-  frmMain.Combo_device.AddItem(row[0]);
+  for (const Device_Row& row : rows) frmMain.Combo_device.AddItem(row[0]);
+}
+
+void Select_Row(const Device_Row& row) {
+  Offer_Devices({row});
   frmMain.Combo_device.Set_ListIndex(0);
 }
 

@@ -1,17 +1,12 @@
 // The bench with the virtual board on the port and a chip in its socket.
 #pragma once
 
-#include <gtest/gtest.h>
-
-#include <cstddef>
-#include <cstdint>
 #include <memory>
 #include <string>
 
 #include "board/cell_store.h"
 #include "board/programmer_board.h"
-#include "core/state/state.h"
-#include "shell/controls/frm_main.h"
+#include "core/transfer_commands.h"
 #include "tests/support/test_bench.h"
 
 namespace wrenbit {
@@ -28,17 +23,38 @@ class Chip_Bench : public Test_Bench {
   Bytes Chip_Contents() const { return {Cells->Cells().begin(), Cells->Cells().end()}; }
   void Fill_Chip(unsigned seed);
   void Fill_Image(unsigned seed);
+
+  // What a transfer has to give back and has not, in words; empty when it has given back all.
+  std::string Still_Held() const;
 };
+
+struct Command {
+  const char* Name;
+  void (*Run)();
+  bool Block, Writes;
+};
+inline constexpr Command kCommands[] = {{"block_read", Cmd_READ_all_Click, true, false},
+                                        {"block_write", Cmd_WRITE_all_Click, true, true},
+                                        {"byte_read", Cmd_READ_single_Click, false, false},
+                                        {"byte_write", Cmd_WRITE_single_Click, false, true}};
 
 // Makes a device of a catalogue row and selects it as the user does.
 void Select_Device(int family, int mem_size, int page_size, int address_mode, int address_bits = 0);
 void Select_Row(const Device_Row& row);
+// The rows to select from; none is selected.
+void Offer_Devices(const std::vector<Device_Row>& rows);
 
 // A pattern in which neighbours, rows and pages all differ.
 Bytes Pattern(std::size_t size, unsigned seed);
 
 void Select_Address(std::int32_t address);
 
-inline const std::string& Panel(int number) { return frmMain.sbStatusBar.Panel(number); }
+// What is printed of a case is its test's name, without the dots.
+template <class Case>
+std::string Case_Name(const testing::TestParamInfo<Case>& of) {
+  std::string name = testing::PrintToString(of.param);
+  std::erase(name, '.');
+  return name;
+}
 
 }  // namespace wrenbit

@@ -1,14 +1,30 @@
 #include "tests/support/test_bench.h"
 
-#include <gtest/gtest.h>
-
 #include <algorithm>
 
 #include "core/state/app.h"
+#include "shell/controls/windows.h"
 #include "shell/windows/wiring.h"
-#include "tests/support/fresh_state.h"
 
 namespace wrenbit {
+
+void Reset_State() {
+  ImageBuffer.clear();
+  TxBytes.clear();
+  RxBytes.clear();
+  DeviceTable.clear();
+  PortMirror = {};
+  for (std::string* text : {&CatalogueVersionText, &DeviceStatusText, &ProgrammerVersionText, &HexFilePath,
+                            &MainTitle, &AppFolder})
+    text->clear();
+  DeviceFamily = MemSize = PageSize = AddressMode = AddressBits = AccessSize = 0;
+  ImageChecksum = LinkError = 0;
+  ProgrammerVersion = 0;
+  WaitStart = TransferStart = 0;
+  TransferRunning = CloseWhenIdle = UpdatingControls = 0;
+  for (Form* form : std::initializer_list<Form*>{&frmMain, &frmCom, &frmAbout, &frmSplash}) form->Reset_All();
+  frmMain.dlgCommonDialog = {};
+}
 
 Test_Bench::Test_Bench() {
   ThePlatform = this;

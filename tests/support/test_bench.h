@@ -2,6 +2,8 @@
 // only when told, settings in memory, and a serial port with a 9600-baud wire in that time, to any board.
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <cstddef>
 #include <cstdint>
 #include <deque>
@@ -15,12 +17,22 @@
 #include "board/wire_end.h"
 #include "core/state/platform.h"
 #include "core/state/settings.h"
+#include "core/state/state.h"
 #include "link/com_ports.h"
 #include "link/mscomm.h"
+#include "shell/controls/frm_main.h"
 
 namespace wrenbit {
 
 using Bytes = std::vector<std::uint8_t>;
+using Texts = std::vector<std::string>;
+
+// Of the status bar.
+inline const std::string& Panel(int number) { return frmMain.sbStatusBar.Panel(number); }
+
+// The program's state as it is when the process starts: all of state.h zero or empty; every window unloaded,
+// hidden, with its first texts. No event fires.
+void Reset_State();
 
 class Test_Bench : private Platform, private Settings_Store, private Serial_Backend {
  public:
@@ -40,7 +52,7 @@ class Test_Bench : private Platform, private Settings_Store, private Serial_Back
   std::size_t Waits = 0;                   // How often it rested for an event.
   double LongestGap = 0;                   // Seconds between two writes, or the last one and the close.
   std::size_t SilentSeconds = 0;           // How many gaps lasted a second.
-  std::vector<std::string> Opened;         // "COM1 RTS DTR" for each open.
+  Texts Opened;                            // "COM1 RTS DTR" for each open.
   std::map<int, Serial_Device> Devices;    // By COM number.
   std::vector<int> Kept;                   // The numbers that were given to their devices.
   double ByteTime = board::kByteTime;      // Seconds a byte on the wire.
@@ -53,13 +65,18 @@ class Test_Bench : private Platform, private Settings_Store, private Serial_Back
   // --- The platform.
   double Now() const { return now; }
   void Pass(double seconds) { now += seconds; }
+  double Seconds_Of(const std::function<void()>& run) {
+    const double from = now;
+    run();
+    return now - from;
+  }
   std::function<void()> On_Yield;              // Runs inside every yield.
   std::function<void()> On_Repaint;            // Inside every repaint.
-  std::vector<std::string> Boxes;              // Title, " | ", text of each message box.
+  Texts Boxes;                                 // Title, " | ", text of each message box.
   Message_Icon Box_Icon = Message_Icon::None;  // Of the last one.
   bool Box_Answer = true;
-  std::vector<std::string> Helps;  // The help files that were shown.
-  std::string Help_Answer;         // What showing one answers.
+  Texts Helps;              // The help files that were shown.
+  std::string Help_Answer;  // What showing one answers.
   bool Ended = false;
 
   std::map<std::string, std::string> Stored;  // The settings, by key.
