@@ -27,9 +27,9 @@ class Com_Ports : public testing::Test {
   const Com_Numbers numbers{config, system};
 
   Com_Ports() { fs::create_directories(config / "ports"); }
-  void Put(const std::string& file, const std::string& line) {
-    fs::create_directories((system / file).parent_path());
-    Put_Content(system / file, line + "\n");
+  void Put(const std::string& folder, const std::map<std::string, std::string>& lines) {
+    fs::create_directories(system / folder);
+    for (const auto& [file, line] : lines) Put_Content(system / folder / file, line + "\n");
   }
   void Add(const std::string& tty, const std::string& hardware) {
     fs::create_directories(system / "class/tty" / tty);
@@ -42,22 +42,21 @@ class Com_Ports : public testing::Test {
 };
 
 TEST_F(Com_Ports, UsbAdaptersComeFirstInTheOrderOfTheirNumbersAndTheSystemTellsWhatTheyAre) {
-  Put("devices/pci0/usb1/1-1/1-1.4/idVendor", "0403");
-  Put("devices/pci0/usb1/1-1/1-1.4/idProduct", "6001");
-  Put("devices/pci0/usb1/1-1/1-1.4/serial", "A5\t0");
-  Put("devices/pci0/usb1/1-1/1-1.4/manufacturer", "Maker");
-  Put("devices/pci0/usb1/1-1/1-1.4/product", "UART bridge");
-  Put("devices/pci0/usb1/1-2/idVendor", "2341");
-  Put("devices/pci0/usb1/1-2/1-2:1.1/ttyUSB2/port_number", "3");
+  Put("devices/pci0/usb1/1-1/1-1.4", {{"idVendor", "0403"},
+                                      {"idProduct", "6001"},
+                                      {"serial", "A5\t0"},
+                                      {"manufacturer", "Maker"},
+                                      {"product", "UART bridge"}});
+  Put("devices/pci0/usb1/1-2", {{"idVendor", "2341"}});
+  Put("devices/pci0/usb1/1-2/1-2:1.1/ttyUSB2", {{"port_number", "3"}});
   Add("ttyUSB10", "pci0/usb1/1-1/1-1.4/1-1.4:1.0/ttyUSB10");
   Add("ttyACM2", "pci0/usb1/1-2/1-2:1.0");
   Add("ttyUSB2", "pci0/usb1/1-2/1-2:1.1/ttyUSB2");
   Add("ttyS0", "pnp0/serial0");
   Add("ttyS1", "pnp0/serial1");
-  Put("class/tty/ttyS0/type", "4");
-  Put("class/tty/ttyS0/rx_trig_bytes", "8");
-  Put("class/tty/ttyS1/type", "0");  // No chip behind it.
-  Put("class/tty/tty1/dev", "4:1");
+  Put("class/tty/ttyS0", {{"type", "4"}, {"rx_trig_bytes", "8"}});
+  Put("class/tty/ttyS1", {{"type", "0"}});  // No chip behind it.
+  Put("class/tty/tty1", {{"dev", "4:1"}});
   std::string told;
   for (const Serial_Device& d : In_Com_Order(Serial_Devices_Present(system)))
     told += d.Path + (d.Usb ? " USB " : " ") + d.Maker + ":" + d.Product + " " +
@@ -122,9 +121,7 @@ TEST_F(Com_Ports, ANumberStaysWithTheBoardThatAnsweredInWhateverOrderTheyArePull
       if (step[0] == '-') fs::remove_all(system / "class/tty/ttyUSB" += step.substr(1));
       if (step[0] != '+') continue;
       const std::string usb = "usb1/1-" + step.substr(3);
-      Put("devices/" + usb + "/idVendor", "0403");
-      Put("devices/" + usb + "/product", {step[1]});
-      Put("devices/" + usb + "/serial", serials.at(step[1]));
+      Put("devices/" + usb, {{"idVendor", "0403"}, {"product", {step[1]}}, {"serial", serials.at(step[1])}});
       Add("ttyUSB" + step.substr(2, 1), usb + "/1-" + step.substr(3) + ":1.0");
     }
     std::string seen;

@@ -1,18 +1,9 @@
 // The handshake: what counts as a good reply, what each failure shows, and what survives it.
 #include "link/handshake.h"
 
-#include <gtest/gtest.h>
-
-#include <cstddef>
-#include <functional>
-#include <string>
 #include <tuple>
-#include <vector>
 
-#include "core/state/state.h"
 #include "link/link.h"
-#include "link/mscomm.h"
-#include "shell/controls/frm_main.h"
 #include "tests/support/test_bench.h"
 
 namespace wrenbit {
@@ -27,11 +18,11 @@ class Handshake_Test : public testing::Test {
     TransferRunning = -1;  // As behind the command lock.
   }
 
+  // To both queries.
   void Answer(const std::string& text) {
     const Bytes bytes(text.begin(), text.end());
     board.Replies = {{1, bytes}, {1, bytes}};
   }
-  static const std::string& Panel(int number) { return frmMain.sbStatusBar.Panel(number); }
 };
 
 TEST_F(Handshake_Test, AGoodReplyTellsVersionAndPortWhichIsReadFromTheSettingsEachTime) {
@@ -48,7 +39,7 @@ TEST_F(Handshake_Test, AGoodReplyTellsVersionAndPortWhichIsReadFromTheSettingsEa
   Answer("TOLVEX\xB1\x01xyz5.00\r\n");
   bench.Stored = {{"ComNo", "19"}, {"RTS", "0"}, {"DTR", "1"}};
   Read_Version();
-  EXPECT_EQ(bench.Opened, (std::vector<std::string>{"COM1 RTS", "COM20 DTR"}));
+  EXPECT_EQ(bench.Opened, (Texts{"COM1 RTS", "COM20 DTR"}));
   EXPECT_EQ(Panel(2), "COM20 : TOLVEXｱ･xyz5.00");
   EXPECT_EQ(bench.Kept, (std::vector<int>{1, 20}));
 }
@@ -58,38 +49,30 @@ TEST_F(Handshake_Test, APortThatGoesDuringThePauseIsNoticedBeforeItIsOver) {
     std::function<bool()> Left;
     bool Gone() const override { return Left(); }
   } leaving;
-  const double from = bench.Now();
-  leaving.Left = [&] { return bench.Now() > from + 0.012; };
+  leaving.Left = [&, from = bench.Now()] { return bench.Now() > from + 0.012; };
   bench.Board = &leaving;
-  Read_Version();
-  EXPECT_LT(bench.Now() - from, 0.030);
+  EXPECT_LT(bench.Seconds_Of(Read_Version), 0.030);
   EXPECT_EQ(Panel(1), "プログラマ接続確認エラー。【1】ポートが切断されました。");
 }
 
-TEST_F(Handshake_Test, NoPartOfALongAnswerIsTakenForTheNextReply) {
-  for (const std::size_t length : {17U, 18U, 45U})
-    for (const bool twice : {true, false}) {
-      SCOPED_TRACE(std::to_string(length) + (twice ? "" : ", the first query unheard"));
-      std::string text = "TOLVEX fw. 5.00";
-      text.resize(length, '*');
-      Answer(text);
-      board.Replies.push_back({3, {0x42}});
-      if (!twice) board.Replies.front().Says.clear();
-      const double before = bench.Now();
-      Read_Version();
-      const double pause = twice ? 0 : 0.020;
-      EXPECT_NEAR(bench.Now() - before, 0.05 + static_cast<double>(1 + length) * 10 / 9600 + pause, 0.002);
-      EXPECT_EQ(Link_ReadPortA(), 0x42);
-      EXPECT_EQ(LinkError, 0);
-    }
-}
-
-TEST_F(Handshake_Test, AnAnswerInPiecesIsServedAndNoneOfItTakenForTheNextReply) {
-  for (const double from_byte_to_byte : {0.004, 0.02, 0.05}) {
-    SCOPED_TRACE(bench.ByteTime = from_byte_to_byte);
-    Answer("TOLVEX fw. 5.00\r\n..");
+TEST_F(Handshake_Test, NoPartOfAnAnswerThatIsLongOrComesInPiecesIsTakenForTheNextReply) {
+  const double wire = bench.ByteTime;
+  // Seconds from byte to byte, the answer's length, and whether the first query is heard too.
+  const std::tuple<double, std::size_t, bool> cases[] = {
+      {wire, 17, true},  {wire, 18, true},  {wire, 45, true}, {wire, 17, false}, {wire, 18, false},
+      {wire, 45, false}, {0.004, 19, true}, {0.02, 19, true}, {0.05, 19, true}};
+  for (const auto& [byte_time, length, twice] : cases) {
+    SCOPED_TRACE(std::to_string(length) + " at " + std::to_string(byte_time) + (twice ? "" : ", once"));
+    std::string text = "TOLVEX fw. 5.00";
+    text.resize(length, '*');
+    Answer(text);
     board.Replies.push_back({3, {0x42}});
-    Read_Version();
+    if (!twice) board.Replies.front().Says.clear();
+    bench.ByteTime = byte_time;
+    const double seconds = bench.Seconds_Of(Read_Version);
+    if (byte_time == wire) {
+      EXPECT_NEAR(seconds, 0.05 + static_cast<double>(1 + length) * wire + (twice ? 0 : 0.020), 0.002);
+    }
     EXPECT_EQ(Panel(2), "COM1 : TOLVEX fw. 5.00");
     EXPECT_EQ(Link_ReadPortA(), 0x42);
     EXPECT_EQ(LinkError, 0);
@@ -105,9 +88,10 @@ TEST_F(Handshake_Test, TellsAVirtualPortFromAWireByItsSecondAnswerAlone) {
     board.Replies.front().Late = first_is_late;
     Read_Version();
     ASSERT_EQ(LinkError, 0);
-    const double before = bench.Now();
-    for (int i = 0; i < 1000; ++i) Link_WritePortB(0x40);
-    EXPECT_EQ(bench.Now() - before > 3, first_is_late > 0) << "it holds back";
+    const double seconds = bench.Seconds_Of([] {
+      for (int i = 0; i < 1000; ++i) Link_WritePortB(0x40);
+    });
+    EXPECT_EQ(seconds > 3, first_is_late > 0) << "it holds back";
   }
 }
 
@@ -123,13 +107,11 @@ TEST_F(Handshake_Test, RepliesThatAreNoneEndTheTransfer) {
     SCOPED_TRACE(says);
     Answer("TOLVEX fw. 5.00\r\n");  // What is said to the first query does not count.
     board.Replies.back().Says = {says.begin(), says.end()};
-    const double before = bench.Now();
-    Read_Version();
+    EXPECT_NEAR(bench.Seconds_Of(Read_Version), seconds, 0.03);
     EXPECT_EQ(LinkError, 1);
     EXPECT_EQ(Panel(1), text);
     EXPECT_EQ(Panel(2), "COM1 : ライター未接続");
     EXPECT_FLOAT_EQ(ProgrammerVersion, 5.0F) << "keeps the last good value";
-    EXPECT_NEAR(bench.Now() - before, seconds, 0.03);
   }
   EXPECT_TRUE(bench.Kept.empty());
 

@@ -1,15 +1,8 @@
 // The operations of the link: what goes out, what is taken for the reply, and what the wait costs.
 #include "link/link.h"
 
-#include <gtest/gtest.h>
-
-#include <cstddef>
-#include <functional>
 #include <utility>
-#include <vector>
 
-#include "core/state/state.h"
-#include "link/mscomm.h"
 #include "tests/support/test_bench.h"
 
 namespace wrenbit {
@@ -22,6 +15,12 @@ class Link_Test : public testing::Test {
   void SetUp() override {
     bench.Board = &board;
     ASSERT_EQ(MSComm1.Open(), Port_Fault::None);
+  }
+  // Commands of four bytes, without an answer.
+  double Seconds_For(int commands) {
+    return bench.Seconds_Of([=] {
+      for (int i = 0; i < commands; ++i) Link_WritePortB(0x40);
+    });
   }
 };
 
@@ -59,10 +58,8 @@ TEST_F(Link_Test, EveryOperationIsOneWriteOfItsOwnBytesAndWaitsOnlyForAReplyAndA
     EXPECT_EQ(bench.Waits, op.HasReply ? 1U : 0U);
 
     LinkError = 0;
-    const double before = bench.Now();
-    op.Run();
+    EXPECT_NEAR(bench.Seconds_Of(op.Run), op.HasReply ? 1 : 0, 0.01);
     EXPECT_EQ(LinkError, op.HasReply ? 1 : 0);
-    EXPECT_NEAR(bench.Now() - before, op.HasReply ? 1 : 0, 0.01);
   }
 }
 
@@ -88,10 +85,8 @@ TEST_F(Link_Test, RepliesAreJudgedByTheirFirstByteAndAPortReadAllowsJustOne) {
 }
 
 TEST_F(Link_Test, AnotherEventNeitherEndsNorLengthensTheWait) {
-  const double before = bench.Now();
   bench.On_Yield = [&] { bench.Leave_In_Buffer(7), MSComm1.Clear_InBuffer(); };
-  EXPECT_EQ(Link_ReadByte24(), 0);
-  EXPECT_NEAR(bench.Now() - before, 1.0, 0.01);
+  EXPECT_NEAR(bench.Seconds_Of([] { EXPECT_EQ(Link_ReadByte24(), 0); }), 1.0, 0.01);
 }
 
 // The wire's own share of a reply's second must stay small, whatever the system swallows at once.
@@ -103,16 +98,13 @@ TEST_F(Link_Test, WhatIsSentRunsAtMost512BytesAheadOfTheWireOrOfWhatWasSeenOfIt)
     SCOPED_TRACE(seen);
     MSComm1.Open();
     if (seen > 0) MSComm1.Learn_Pace(18, seen);
-    const double before = bench.Now();
-    for (int i = 0; i < 128; ++i) Link_WritePortB(0x40);
-    EXPECT_NEAR(bench.Now(), before, 1e-4) << "512 bytes wait for nothing";
-    for (int i = 128; i < 1000; ++i) Link_WritePortB(0x40);
-    EXPECT_NEAR(bench.Now() - before, (4000 - 512) * byte_time, 1e-3);
+    EXPECT_NEAR(Seconds_For(128), 0, 1e-4) << "512 bytes wait for nothing";
+    EXPECT_NEAR(Seconds_For(872), (4000 - 512) * byte_time, 1e-3);
   }
 }
 
 TEST_F(Link_Test, ALateByteThatComesWhileTheWireCatchesUpIsNoReply) {
-  for (int i = 0; i < 128; ++i) Link_WritePortB(0x40);
+  Seconds_For(128);
   bool late = false;
   bench.On_Yield = [&] {
     if (!std::exchange(late, true)) bench.Leave_In_Buffer(0x55);
