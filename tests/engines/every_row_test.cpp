@@ -1,11 +1,11 @@
 // The same transfers for every row of the delivered catalogue, on both firmware routes: what lands in the
 // chip is the image, and what lands in the image is the chip.
+#include <algorithm>
 #include <ostream>
 
 #include "core/catalogue.h"
 #include "core/catalogue_text.h"
 #include "tests/support/chip_bench.h"
-#include "tests/support/same_bytes.h"
 #include "tests/support/temporary_folder.h"
 
 namespace wrenbit {
@@ -23,6 +23,13 @@ std::vector<Case> All_Cases() {
   for (const Device_Row& row : Read_Catalogue(Catalogue_Text(Content(WRENBIT_INI))).Rows)
     for (const char* firmware : {"4.90", "5.00"}) cases.push_back({row, firmware});
   return cases;
+}
+
+testing::AssertionResult Same_Bytes(const Bytes& got, const Bytes& wanted) {
+  if (got == wanted) return testing::AssertionSuccess();
+  const auto parted = std::ranges::mismatch(got, wanted).in1 - got.begin();
+  return testing::AssertionFailure() << got.size() << " bytes for " << wanted.size() << ", parted at "
+                                     << parted;
 }
 
 class Every_Row : public testing::TestWithParam<Case> {
