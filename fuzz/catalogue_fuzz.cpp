@@ -5,15 +5,12 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
-#include <utility>
 
 #include "core/catalogue.h"
 #include "core/catalogue_text.h"
-#include "core/transfer_commands.h"
 #include "fuzz/must_hold.h"
 #include "image/image_buffer.h"
-#include "shell/controls/frm_main.h"
-#include "tests/support/test_bench.h"
+#include "tests/support/chip_bench.h"
 
 using namespace wrenbit;
 
@@ -30,9 +27,7 @@ void Select_And_Try(int index) {
             "the image is as large as the device, or there is none");
   Must_Hold(ImageBuffer.empty() == (frmMain.CmbSize.ListCount() == 0), "an image has block sizes");
   Must_Hold(ImageBuffer.empty() || AccessSize <= MemSize, "no block is larger than the device");
-  for (CommandButton* button :
-       {&frmMain.Cmd_READ_all, &frmMain.Cmd_WRITE_all, &frmMain.Cmd_READ_single, &frmMain.Cmd_WRITE_single})
-    button->Click();
+  for (const Command& command : kCommands) command.Run();
   Must_Hold(frmMain.Cmd_READ_all.Reachable(), "the controls come back");
 }
 
@@ -41,19 +36,16 @@ void Select_And_Try(int index) {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   static Test_Bench bench;
   bench.Refusal = Port_Fault::No_Such_Port;
-  frmMain.Ensure_Loaded();
 
   const std::string_view bytes(reinterpret_cast<const char*>(data), size);
-  Catalogue catalogue = Read_Catalogue(Catalogue_Text(bytes));
+  const Catalogue catalogue = Read_Catalogue(Catalogue_Text(bytes));
   Must_Hold(catalogue.Rows.size() <= kTableRows, "the table holds the rows");
-  DeviceTable = std::move(catalogue.Rows);
-  frmMain.Combo_device.Clear();
-  for (const Device_Row& row : DeviceTable) {
+  for (const Device_Row& row : catalogue.Rows) {
     Must_Hold(!row[Column_Name].empty(), "a device has a name");
     for (const std::string& cell : row)
       Must_Hold(cell.find_first_of(" \t") == cell.npos, "a cell is one word");
-    frmMain.Combo_device.AddItem(row[Column_Name]);
   }
+  Offer_Devices(catalogue.Rows);
   for (std::size_t row = 0; row < std::min(kRowsTried, DeviceTable.size()); ++row) {
     const std::int32_t power = Number_Cell(DeviceTable[row], Column_Mem_Size);
     if (power <= kSmallSize || power > kGreatestSize) Select_And_Try(static_cast<int>(row));

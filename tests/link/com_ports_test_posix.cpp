@@ -36,8 +36,12 @@ class Com_Ports : public testing::Test {
     fs::create_directories(system / "devices" / hardware);
     fs::create_symlink(system / "devices" / hardware, system / "class/tty" / tty / "device");
   }
-  std::string Path_Of_Com(int number) const {
-    return numbers.Device(number).value_or(Serial_Device{.Path = "none"}).Path;
+  // Of COM1 on; "-" where there is none.
+  std::string Paths(int count) const {
+    std::string paths;
+    for (int number = 1; number <= count; ++number)
+      paths += numbers.Device(number).value_or(Serial_Device{.Path = "-"}).Path + " ";
+    return paths;
   }
 };
 
@@ -74,24 +78,20 @@ TEST_F(Com_Ports, ALinkDecidesUnlessAKilledBoardLeftItBehind) {
   fs::create_symlink("/dev/zero", config / "ports/COM1");
   fs::create_symlink("/dev/no-such-device", config / "ports/COM2");
   fs::create_symlink("/etc/passwd", config / "ports/COM3");
-  EXPECT_EQ(Path_Of_Com(1), "/dev/zero");
-  EXPECT_EQ(Path_Of_Com(2), "none");
-  EXPECT_EQ(Path_Of_Com(3), "none");
+  EXPECT_EQ(Paths(3), "/dev/zero - - ");
   fs::remove(config / "ports/COM3");
-  EXPECT_EQ(Path_Of_Com(3), "/dev/ttyS0");
-  EXPECT_EQ(Path_Of_Com(5), "none") << "what has a link takes no other number";
-  for (const int outside : {-1, 0, 21}) EXPECT_EQ(Path_Of_Com(outside), "none");
+  EXPECT_EQ(Paths(5), "/dev/zero - /dev/ttyS0 /dev/ttyS1 - ") << "what has a link takes no other number";
+  for (const int outside : {-1, 0, 21}) EXPECT_FALSE(numbers.Device(outside));
   numbers.Give(1, *numbers.Device(1));
   EXPECT_FALSE(fs::exists(config / "com-numbers"));
 
   const fs::path lock = config / "ports/COM1.lock";
   Put_Content(lock, "");
-  EXPECT_EQ(Path_Of_Com(1), "/dev/ttyS0");
+  EXPECT_EQ(Paths(1), "/dev/ttyS0 ");
   numbers.Give(1, *numbers.Device(1));
   const int board = open(lock.c_str(), O_RDWR);
   ASSERT_EQ(flock(board, LOCK_EX), 0);
-  EXPECT_EQ(Path_Of_Com(1), "/dev/zero") << "the board lives";
-  EXPECT_EQ(Path_Of_Com(3), "/dev/ttyS0") << "whose number it has";
+  EXPECT_EQ(Paths(3), "/dev/zero - /dev/ttyS0 ") << "the board lives, and has the number of another";
   close(board);
 }
 
@@ -139,7 +139,7 @@ TEST_F(Com_Ports, ADamagedLineKeepsItsNumberAndANewDeviceGetsNoneOfTwentyOwnedOn
   for (int number = 3; number <= 20; ++number)
     text += "COM" + std::to_string(number) + "\tplace\t\t\tttyS9\n";
   Put_Content(config / "com-numbers", text);
-  for (int number = 1; number <= 20; ++number) EXPECT_EQ(Path_Of_Com(number), "");
+  EXPECT_EQ(Paths(20), std::string(20, ' '));
 }
 
 }  // namespace
