@@ -1,8 +1,5 @@
 // The steps of both buses, and supply and lines up and down: what is read back and told. What goes out is in
 // wire_test.cpp.
-#include <functional>
-#include <string>
-
 #include "engines/c24_bus.h"
 #include "engines/c93_bus.h"
 #include "tests/support/chip_bench.h"
@@ -11,12 +8,8 @@ namespace wrenbit {
 namespace {
 
 using board::Line;
-using Fault = std::function<void(Chip_Bench&)>;
 
 constexpr bool kLow = false, kHigh = true;
-Fault Stuck(Line line, bool level) {
-  return [=](Chip_Bench& bench) { bench.Programmer.Socket().Stick(line, level); };
-}
 void Flag_Set(Chip_Bench&) { LinkError = 1; }
 void Silence(Chip_Bench& bench) { bench.Board = nullptr; }
 
@@ -31,7 +24,7 @@ void C93_Data() {
 TEST(Bus, AStepThatFailsIsToldAndEndsAtItsFirstTest) {
   const struct {
     void (*Before)();
-    Fault Meets;
+    Board_Fault Meets;
     void (*Run)();
     const char* Text;
     int Error = 0;

@@ -2,8 +2,6 @@
 // those that fail for other reasons than the ones of the sweep: no chip, lines that stick, rows that are
 // wrong.
 #include <algorithm>
-#include <optional>
-#include <string>
 #include <tuple>
 #include <utility>
 
@@ -86,18 +84,18 @@ TEST(Byte_Transfer, TheThreeWireWriteBringsTheEditPanelUpToDateWhateverCameOfIt)
 // The three-wire bus has no acknowledge: what only a look at the chip would tell ends as a good transfer.
 TEST(Transfer_Failure, WithoutAChipOrALineATwoWireTransferFailsAndAThreeWireOneDoesNotNotice) {
   using board::Line;
+  const auto no_chip = [](Chip_Bench& bench) { bench.Programmer.Insert(nullptr); };
   const struct {
     const char* Chip;
-    std::optional<Line> Stuck;  // Otherwise there is no chip.
-    bool High;
+    Board_Fault Meets;
     const char* Error;
     std::uint8_t Bit_By_Bit, By_The_Board;  // The byte that a read gives.
     bool Writes;
-  } faults[] = {{"24C02", {}, false, "24Cxx Power on PortA error", 0xFF, 0xFF, false},
-                {"24C02", Line::Sda, false, "24Cxx Power on PortA error", 0x00, 0x00, false},
-                {"AT93C46", {}, false, "", 0xFF, 0xFF, false},
-                {"AT93C46", Line::Di, true, "", 0x00, 0xFF, false},
-                {"AT93C46", Line::Do, true, "", 0xFF, 0xFF, true}};
+  } faults[] = {{"24C02", no_chip, "24Cxx Power on PortA error", 0xFF, 0xFF, false},
+                {"24C02", Stuck(Line::Sda, false), "24Cxx Power on PortA error", 0x00, 0x00, false},
+                {"AT93C46", no_chip, "", 0xFF, 0xFF, false},
+                {"AT93C46", Stuck(Line::Di, true), "", 0x00, 0xFF, false},
+                {"AT93C46", Stuck(Line::Do, true), "", 0xFF, 0xFF, true}};
   for (const auto& fault : faults)
     for (const char* firmware : {"4.90", "5.00"})
       for (const Command& command : kCommands) {
@@ -106,10 +104,7 @@ TEST(Transfer_Failure, WithoutAChipOrALineATwoWireTransferFailsAndAThreeWireOneD
         bench.Fill_Chip(1);
         bench.Fill_Image(2);
         Bytes chip = bench.Chip_Contents(), image = ImageBuffer;
-        if (fault.Stuck)
-          bench.Programmer.Socket().Stick(*fault.Stuck, fault.High);
-        else
-          bench.Programmer.Insert(nullptr);
+        fault.Meets(bench);
         command.Run();
         const bool failed = *fault.Error;
         EXPECT_EQ(LinkError, failed ? 1 : 0);

@@ -40,6 +40,10 @@ std::string Chip_Bench::Still_Held() const {
   return frmMain.ActiveControl() == &frmMain.Text_modify_hex ? "" : "the focus is elsewhere";
 }
 
+Board_Fault Stuck(board::Line line, bool high) {
+  return [=](Chip_Bench& bench) { bench.Programmer.Socket().Stick(line, high); };
+}
+
 void Select_Device(int family, int mem_size, int page_size, int address_mode, int address_bits) {
   Device_Row row{"device",
                  "",

@@ -28,6 +28,10 @@ class Chip_Bench : public Test_Bench {
   std::string Still_Held() const;
 };
 
+// What is wrong with a board, made so when it is called.
+using Board_Fault = std::function<void(Chip_Bench&)>;
+Board_Fault Stuck(board::Line line, bool high);
+
 struct Command {
   const char* Name;
   void (*Run)();

@@ -71,7 +71,7 @@ class Test_Bench : private Platform, private Settings_Store, private Serial_Back
     return now - from;
   }
   std::function<void()> On_Yield;              // Runs inside every yield.
-  std::function<void()> On_Repaint;            // Inside every repaint.
+  std::function<void()> On_Repaint = [] {};    // Inside every repaint.
   Texts Boxes;                                 // Title, " | ", text of each message box.
   Message_Icon Box_Icon = Message_Icon::None;  // Of the last one.
   bool Box_Answer = true;
@@ -89,9 +89,7 @@ class Test_Bench : private Platform, private Settings_Store, private Serial_Back
   void DoEvents() override {
     if (On_Yield) On_Yield();
   }
-  void Repaint() override {
-    if (On_Repaint) On_Repaint();
-  }
+  void Repaint() override { On_Repaint(); }
   void Await_Event(double seconds) override;
   double Timer() override { return now; }
   void Sleep(int milliseconds) override { now += milliseconds / 1000.0; }
