@@ -181,9 +181,9 @@ struct Three_Wire_Bench : Bench {
     for (int bit = Part.AddressBits - 1; bit >= 0; --bit) text += value >> bit & 1 ? '1' : '0';
     return text;
   }
-  // EWEN 3, ERAL 2, WRAL 1, EWDS 0, with ones in the bits that any value may have.
-  std::string Extended(std::size_t code) const {
-    return "100" + Field((code << (Part.AddressBits - 2)) | ((1U << (Part.AddressBits - 2)) - 1));
+  // EWEN 11, ERAL 10, WRAL 01, EWDS 00, with ones in the bits that any value may have.
+  std::string Extended(const char* code) const {
+    return std::string("100") + code + std::string(static_cast<std::size_t>(Part.AddressBits) - 2, '1');
   }
 
   const board::Three_Wire_Part Part;
@@ -200,9 +200,9 @@ TEST(Three_Wire_Chip, Obeys_Each_Instruction_Of_Its_Data_Sheet) {
       for (const std::string& frame : frames) on.Frame(frame);
       EXPECT_EQ(on.Cells(), cells) << after;
     };
-    expect("no write enable", {write, erase, on.Extended(2)});
+    expect("no write enable", {write, erase, on.Extended("10")});
     cells[at] = 0x5A;
-    expect("WRITE, behind two zeros", {on.Extended(3), "00" + write});
+    expect("WRITE, behind two zeros", {on.Extended("11"), "00" + write});
     cells[at + 1] = 0xFF;
     expect("ERASE", {erase});
 
@@ -216,21 +216,21 @@ TEST(Three_Wire_Chip, Obeys_Each_Instruction_Of_Its_Data_Sheet) {
     EXPECT_TRUE(on.DO()) << "DO is let go";
 
     cells.assign(part.Bytes, 0xC3);
-    expect("WRAL", {on.Extended(1) + "11000011"});
+    expect("WRAL", {on.Extended("01") + "11000011"});
     cells.assign(part.Bytes, 0xFF);
-    expect("ERAL", {on.Extended(2)});
-    expect("EWDS", {on.Extended(0), write});
+    expect("ERAL", {on.Extended("10")});
+    expect("EWDS", {on.Extended("00"), write});
   }
 }
 
 TEST(Three_Wire_Chip, Does_Nothing_Unless_The_Frame_Is_Whole) {
   Three_Wire_Bench on(*board::Find_Three_Wire("AT93C46"));
   const Bytes cells = on.Cells();
-  on.Frame(on.Extended(3));
+  on.Frame(on.Extended("11"));
   const std::string write = "101" + on.Field(5);
   for (const std::string& frame :
-       {write, write + "0101101", write + "010110100", "111" + on.Field(5) + "0", on.Extended(2) + "1",
-        on.Extended(1) + "010110100", on.Extended(0) + "1", std::string("10")}) {
+       {write, write + "0101101", write + "010110100", "111" + on.Field(5) + "0", on.Extended("10") + "1",
+        on.Extended("01") + "010110100", on.Extended("00") + "1", std::string("10")}) {
     on.Frame(frame);
     EXPECT_EQ(on.Cells(), cells) << frame;
   }
@@ -254,7 +254,7 @@ TEST(Three_Wire_Chip, Is_Deaf_Until_Its_Write_Cycle_Is_Over_And_Tells_It_On_DO) 
        {std::tuple{272, false, false}, {273, false, true}, {278, true, true}}) {
     SCOPED_TRACE(idle);
     Three_Wire_Bench on(kSlow);
-    on.Frame(on.Extended(3));
+    on.Frame(on.Extended("11"));
     on.Frame("101" + on.Field(5) + "00110011", 0);
     EXPECT_TRUE(on.DO()) << "DO is let go while CS is low";
     on.Idle(idle);
@@ -270,8 +270,8 @@ TEST(Three_Wire_Chip, Is_Deaf_Until_Its_Write_Cycle_Is_Over_And_Tells_It_On_DO) 
 TEST(Three_Wire_Chip, Loses_With_The_Supply_Its_Write_Enable_And_The_Cells_It_Was_Writing) {
   for (const bool pulled : {false, true}) {
     Three_Wire_Bench on(kSlow);
-    on.Frame(on.Extended(3));
-    on.Frame(on.Extended(1) + "00110011", 0);
+    on.Frame(on.Extended("11"));
+    on.Frame(on.Extended("01") + "00110011", 0);
     EXPECT_EQ(on.Cells(), Bytes(128, 0x33));
     pulled ? on.Board.Insert(nullptr) : on.Power_Off();
     EXPECT_EQ(on.Cells(), Bytes(128, 0xFF)) << "neither old nor new";
@@ -280,7 +280,7 @@ TEST(Three_Wire_Chip, Loses_With_The_Supply_Its_Write_Enable_And_The_Cells_It_Wa
     const std::string write = "101" + on.Field(6) + "00110011";
     on.Frame(write);
     EXPECT_EQ(on.Cells()[6], 0xFF);
-    on.Frame(on.Extended(3));
+    on.Frame(on.Extended("11"));
     on.Frame(write);
     EXPECT_EQ(on.Cells()[6], pulled ? 0xFF : 0x33) << "the cycle does not go on";
   }

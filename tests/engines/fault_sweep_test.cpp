@@ -147,7 +147,7 @@ class One_Run {
   // What of all that must hold does not, in words; empty when everything does.
   std::string Violation(const Fault& fault) const {
     // The way back, whatever happened.
-    if (const std::string held = Bench.Still_Held(); !held.empty()) return held;
+    if (std::string held = Bench.Still_Held(); !held.empty()) return held;
     if (frmMain.MousePointer() != Pointer::Default) return "the hourglass is up";
 
     // Time.
@@ -222,7 +222,7 @@ class One_Run {
   // The last read-back of the power-off is the one that failed.
   std::string Error_Text() const {
     if (!On_The_Bus()) {
-      const bool answered = Bench.Received >= 2 * 17;  // To both queries.
+      const bool answered = Bench.Received >= std::size_t{2} * 17;  // To both queries.
       const char* reason = Faulty.Gone() ? "ポートが切断されました。" : "";
       return std::string("プログラマ接続確認エラー。") + (answered ? "" : "【1】") + reason;
     }
