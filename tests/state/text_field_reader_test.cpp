@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <tuple>
 #include <vector>
 
 namespace wrenbit {
@@ -16,10 +17,7 @@ TEST(Text_Field_Reader_Test, QuotesHoldAFieldTogetherWhereTheyAreHonoured) {
     for (Text_Field_Reader reader(text, quotes); !reader.At_End();) all.emplace_back(reader.Next());
     return all;
   };
-  const struct {
-    const char* Text;
-    Fields Honoured, Plain;
-  } cases[] = {
+  const std::tuple<const char*, Fields, Fields> cases[] = {
       {"\"a\r\nb\",c", {"a\r\nb", "c"}, {"\"a", "b\"", "c"}},
       {"  \" a, \"  ,  c", {" a, ", "c"}, {"\" a", "\"  ", "c"}},
       {"\"a\",\nb", {"a", "", "b"}, {"\"a\"", "", "b"}},
@@ -28,9 +26,9 @@ TEST(Text_Field_Reader_Test, QuotesHoldAFieldTogetherWhereTheyAreHonoured) {
       {"\"a,b\n", {"a,b\n"}, {"\"a", "b"}},
       {"\"", {""}, {"\""}},
   };
-  for (const auto& c : cases) {
-    EXPECT_EQ(fields(c.Text, Quotes::Honoured), c.Honoured) << c.Text;
-    EXPECT_EQ(fields(c.Text, Quotes::Plain), c.Plain) << c.Text;
+  for (const auto& [text, honoured, plain] : cases) {
+    EXPECT_EQ(fields(text, Quotes::Honoured), honoured) << text;
+    EXPECT_EQ(fields(text, Quotes::Plain), plain) << text;
   }
 }
 

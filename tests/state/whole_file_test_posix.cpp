@@ -6,13 +6,14 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include <algorithm>
 #include <csignal>
+#include <cstdint>
 #include <cstring>
 #include <filesystem>
+#include <map>
 #include <optional>
 #include <string>
-#include <utility>
+#include <vector>
 
 #include "tests/support/plain_user_posix.h"
 #include "tests/support/temporary_folder.h"
@@ -22,34 +23,14 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr const char* kNoFolder = "保存先のフォルダが見つかりません。";
 constexpr const char* kNotAllowed = "書き込みが許可されていないか、読み取り専用です。";
 constexpr const char* kDiskFull = "ディスクの空き容量が足りません。";
-constexpr const char* kFolder = "同じ名前のフォルダがあります。";
-constexpr const char* kNoRegularFile = "通常のファイルではないので、書き込めません。";
-
-// Files may grow to so many bytes and no further.
-void Limit_Files(rlim_t bytes) {
-  rlimit limit;
-  getrlimit(RLIMIT_FSIZE, &limit);
-  limit.rlim_cur = std::min(bytes, limit.rlim_max);
-  setrlimit(RLIMIT_FSIZE, &limit);
-}
 
 class Whole_File : public testing::Test {
  protected:
   const Temporary_Folder folder;
   const std::string file = folder / "a.hex";
 };
-
-TEST_F(Whole_File, ReadsNothingButRegularFiles) {
-  ASSERT_EQ(mkfifo((folder / "pipe").c_str(), 0666), 0);
-  Put_Content(folder / "vast", "");
-  fs::resize_file(folder / "vast", std::uintmax_t{1} << 30);
-  for (const std::string& path :
-       {folder / "none", folder / "pipe", folder / "vast", folder.Path(), std::string("/dev/zero")})
-    EXPECT_EQ(Read_Whole_File(path), std::nullopt) << path;
-}
 
 TEST_F(Whole_File, ANewFileFollowsTheUmaskAndAReplacedOneKeepsItsMode) {
   const mode_t old_mask = umask(027);
@@ -74,50 +55,49 @@ TEST_F(Whole_File, ALinkStaysAndItsGoalIsWritten) {
   EXPECT_NE(Write_Whole_File(folder / "ring", "x"), std::nullopt);
 }
 
-TEST_F(Whole_File, RefusesWhatIsNoRegularFileAndTellsWhy) {
+TEST_F(Whole_File, NothingButRegularFilesIsReadOrWrittenAndARefusalTellsWhy) {
   ASSERT_EQ(mkfifo((folder / "pipe").c_str(), 0666), 0);
   Put_Content(file, "old");
-  const std::pair<std::string, const char*> cases[] = {
-      {folder / "none/a.hex", kNoFolder}, {file + "/a.hex", kNoFolder}, {"", kNoFolder},
-      {folder.Path(), kFolder},           {folder / "", kFolder},       {folder / "pipe", kNoRegularFile},
-      {"/dev/null", kNoRegularFile},
+  const std::map<std::string, std::vector<std::string>> cases{
+      {"保存先のフォルダが見つかりません。", {folder / "none/a.hex", file + "/a.hex", ""}},
+      {"同じ名前のフォルダがあります。", {folder.Path(), folder / ""}},
+      {"通常のファイルではないので、書き込めません。", {folder / "pipe", "/dev/null"}},
   };
-  for (const auto& [path, reason] : cases) EXPECT_EQ(Write_Whole_File(path, "x"), reason) << path;
+  for (const auto& [reason, paths] : cases)
+    for (const std::string& path : paths) {
+      EXPECT_EQ(Read_Whole_File(path), std::nullopt) << path;
+      EXPECT_EQ(Write_Whole_File(path, "x"), reason) << path;
+    }
   EXPECT_EQ(folder.Entries(), 2);
 
   const std::string other = Write_Whole_File(folder / std::string(300, 'n'), "x").value();
   EXPECT_NE(other.find(std::strerror(ENAMETOOLONG)), other.npos) << other;
+  fs::resize_file(file, std::uintmax_t{1} << 30);
+  EXPECT_EQ(Read_Whole_File(file), std::nullopt) << "too large";
 }
 
-TEST_F(Whole_File, AFullDiskLeavesTheOldFileAndNothingBesideIt) {
+// A file that grows beyond the limit ends the process by a signal; where that is ignored, the write that
+// reaches the limit takes what fits, and the next one fails.
+TEST_F(Whole_File, AFullDiskOrADeathInTheMidstLeavesTheOldFile) {
   Put_Content(file, "old");
-  const auto handler =
-      std::signal(SIGXFSZ, SIG_IGN);  // A write then takes what fits, and the next one fails.
-  Limit_Files(100);
-  for (const char* name : {"a.hex", "b.hex"})
-    EXPECT_EQ(Write_Whole_File(folder / name, std::string(101, 'x')), kDiskFull);
-  Limit_Files(RLIM_INFINITY);
-  std::signal(SIGXFSZ, handler);
-  EXPECT_EQ(Content(file), "old");
-  EXPECT_EQ(folder.Entries(), 1);
-}
-
-TEST_F(Whole_File, AProcessKilledInTheMidstLeavesTheOldFile) {
-  Put_Content(file, "old");
-  for (const rlim_t at : {0u, 1u, 5000u}) {
-    const pid_t child = fork();
-    if (child == 0) {
-      const rlimit no_core{0, 0};
-      setrlimit(RLIMIT_CORE, &no_core);
-      Limit_Files(at);  // The signal ends a process whose file grows too long.
-      Write_Whole_File(file, std::string(10000, 'x'));
-      _exit(0);
+  for (const bool killed : {false, true})
+    for (const rlim_t at : {0u, 1u, 5000u}) {
+      SCOPED_TRACE(at);
+      const pid_t child = fork();
+      if (child == 0) {
+        const rlimit no_core{0, 0}, limit{at, at};
+        setrlimit(RLIMIT_CORE, &no_core);
+        setrlimit(RLIMIT_FSIZE, &limit);
+        std::signal(SIGXFSZ, killed ? SIG_DFL : SIG_IGN);
+        const std::string text(10000, 'x');
+        _exit(Write_Whole_File(file, text) == kDiskFull && Write_Whole_File(file + "2", text) == kDiskFull);
+      }
+      int status = 0;
+      ASSERT_EQ(waitpid(child, &status, 0), child);
+      EXPECT_TRUE(killed ? WIFSIGNALED(status) : WEXITSTATUS(status) == 1);
+      EXPECT_EQ(Content(file), "old");
+      EXPECT_TRUE(killed || folder.Entries() == 1) << "nothing is left beside it";
     }
-    int status = 0;
-    ASSERT_EQ(waitpid(child, &status, 0), child);
-    ASSERT_TRUE(WIFSIGNALED(status)) << "it was to be killed at byte " << at;
-    EXPECT_EQ(Content(file), "old");
-  }
   for (const auto& left : fs::directory_iterator(folder.Path()))
     EXPECT_TRUE(left.path() == file || left.path().filename().string().starts_with(".wrenbit-"));
 }
@@ -125,18 +105,14 @@ TEST_F(Whole_File, AProcessKilledInTheMidstLeavesTheOldFile) {
 TEST_F(Whole_File, RefusesAFileOrFolderThatTheUserMayNotWrite) {
   const Plain_User plain;
   if (!plain) GTEST_SKIP() << "root can't become a plain user here";
-  Put_Content(file, "old");
-  chmod(file.c_str(), 0444);
-  EXPECT_EQ(Write_Whole_File(file, "new"), kNotAllowed);
-  EXPECT_EQ(Content(file), "old");
-  EXPECT_EQ(folder.Entries(), 1);
-
   fs::create_directory(folder / "locked");
-  Put_Content(folder / "locked/writable", "old");
+  for (const char* name : {"a.hex", "locked/b.hex"}) Put_Content(folder / name, "old");
+  chmod(file.c_str(), 0444);
   chmod((folder / "locked").c_str(), 0555);
-  for (const char* name : {"locked/a.hex", "locked/writable"})
-    EXPECT_EQ(Write_Whole_File(folder / name, "new"), kNotAllowed);
-  EXPECT_EQ(Content(folder / "locked/writable"), "old");
+  for (const char* name : {"a.hex", "locked/a.hex", "locked/b.hex"})
+    EXPECT_EQ(Write_Whole_File(folder / name, "new"), kNotAllowed) << name;
+  EXPECT_EQ(Content(file) + Content(folder / "locked/b.hex"), "oldold");
+  EXPECT_EQ(folder.Entries(), 2);
   chmod((folder / "locked").c_str(), 0755);
 }
 
