@@ -4,37 +4,38 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <cstdlib>
 #include <map>
 #include <numeric>
+#include <random>
+#include <string>
+#include <tuple>
 
 #include "core/state/state.h"
+#include "tests/support/temporary_folder.h"
 
 namespace wrenbit {
 namespace {
 
 TEST(Intel_Hex_Writer, WritesFullRecordsAndTheEndRecord) {
-  ImageBuffer.resize(32);
-  std::iota(ImageBuffer.begin(), ImageBuffer.end(), std::uint8_t{0});
+  ImageBuffer.assign(32, 0xFE);
+  std::iota(ImageBuffer.begin(), ImageBuffer.begin() + 16, std::uint8_t{0});
   EXPECT_EQ(Intel_Hex_Text(),
             ":10000000000102030405060708090A0B0C0D0E0F78\r\n"
-            ":10001000101112131415161718191A1B1C1D1E1F68\r\n"
+            ":10001000FEFEFEFEFEFEFEFEFEFEFEFEFEFEFEFE00\r\n"
             ":00000001FF\r\n");
-  ImageBuffer.assign(16, 0xFF);
-  EXPECT_EQ(Intel_Hex_Text(), ":10000000FFFFFFFFFFFFFFFFFFFFFFFFFFFFFFFF00\r\n:00000001FF\r\n");
 }
 
 TEST(Intel_Hex_Writer, ExtendsAddressesOnlyBeyond64KiB) {
   constexpr std::size_t kBankText = 45 * 4096;  // A record has 45 characters, with its line end.
-  const std::string bank_1 = ":020000040001F9\r\n:10000000", bank_2 = ":020000040002F8\r\n:10000000";
   ImageBuffer.assign(65536, 0xFF);
-  EXPECT_EQ(Intel_Hex_Text().substr(kBankText - 45, 9), ":10FFF000");
   EXPECT_EQ(Intel_Hex_Text().substr(kBankText), ":00000001FF\r\n");
 
   ImageBuffer.assign(3 * 65536, 0xFF);
   const std::string text = Intel_Hex_Text();
-  EXPECT_EQ(text.substr(0, 9), ":10000000");
-  EXPECT_EQ(text.substr(kBankText, bank_1.size()), bank_1);
-  EXPECT_EQ(text.substr(2 * kBankText + 17, bank_2.size()), bank_2);
+  EXPECT_EQ(text.substr(kBankText - 45, 9), ":10FFF000");
+  EXPECT_EQ(text.substr(kBankText, 26), ":020000040001F9\r\n:10000000");
+  EXPECT_EQ(text.substr(2 * kBankText + 17, 26), ":020000040002F8\r\n:10000000");
   EXPECT_EQ(text.size(), 3 * kBankText + 2 * 17 + 13);
 }
 
@@ -51,14 +52,9 @@ Stored Load(std::string_view text, std::size_t image_size) {
 }
 
 TEST(Intel_Hex_Reader, TakesWhatItCan) {
-  const struct {
-    const char* What;
-    const char* Text;
-    Stored Kept;
-  } cases[] = {
-      {"end record only", ":00000001FF\r\n", {}},
+  const std::tuple<const char*, const char*, Stored> cases[] = {
       {"odd length", ":03000500010203", {{5, 1}, {6, 2}, {7, 3}}},
-      {"half a byte", ":03000000120", {{0, 0x12}, {1, 0}, {2, 0}}},
+      {"half a byte", ":0300000012A", {{0, 0x12}, {1, 0x0A}, {2, 0}}},
       {"start and length only", ":03", {{0, 0}, {1, 0}, {2, 0}}},
       {"start only", ":", {}},
       {"lower case", ":02001e00abcf", {{0x1E, 0xAB}, {0x1F, 0xCF}}},
@@ -83,12 +79,7 @@ TEST(Intel_Hex_Reader, TakesWhatItCan) {
 
 TEST(Intel_Hex_Reader, MovesDataOnlyInAnImageOver64KiB) {
   constexpr std::size_t kLarge = 0x20000;
-  const struct {
-    const char* What;
-    const char* Text;
-    Stored Large;
-    Stored Small;
-  } cases[] = {
+  const std::tuple<const char*, const char*, Stored, Stored> cases[] = {
       {"linear", ":020000040001F9\n:0100050007", {{0x10005, 7}}, {{5, 7}}},
       {"segment", ":020000021001EB\n:0100050007", {{0x10015, 7}}, {{5, 7}}},
       {"back again", ":020000040001F9\n:020000040000FA\n:0100050007", {{5, 7}}, {{5, 7}}},
@@ -100,6 +91,39 @@ TEST(Intel_Hex_Reader, MovesDataOnlyInAnImageOver64KiB) {
     EXPECT_EQ(Load(text, kLarge), large) << what;
     EXPECT_EQ(Load(text, 0x10000), small) << what;
   }
+}
+
+// Holds ours against another tool, in both directions. Its commands make one of the folder's files into the
+// other.
+void Exchange_Files_With(const std::string& tool, const char* to_hex, const char* to_binary) {
+  const auto run = [](const std::string& command) { return std::system(command.c_str()); };
+  if (run(tool + " --version >/dev/null 2>&1") != 0) GTEST_SKIP() << tool << " is not installed";
+  const Temporary_Folder folder;
+  const std::string there = "cd '" + folder.Path() + "' && " + tool + " ";
+  for (const std::size_t size : {128u, 65536u, 131072u}) {
+    SCOPED_TRACE(size);
+    std::mt19937 random(1);
+    ImageBuffer.resize(size);
+    for (auto& byte : ImageBuffer) byte = static_cast<std::uint8_t>(random());
+    const std::string binary(ImageBuffer.begin(), ImageBuffer.end());
+    Put_Content(folder / "hex", Intel_Hex_Text());
+    ASSERT_EQ(run(there + to_binary), 0);
+    EXPECT_TRUE(Content(folder / "bin") == binary);
+
+    Put_Content(folder / "bin", binary);
+    ASSERT_EQ(run(there + to_hex), 0);
+    ImageBuffer.assign(size, 0xFF);
+    Intel_Hex_Load(Content(folder / "hex"));
+    EXPECT_TRUE(std::string(ImageBuffer.begin(), ImageBuffer.end()) == binary);
+  }
+}
+
+TEST(Intel_Hex_Files, GoToSrecCatAndBack) {
+  Exchange_Files_With("srec_cat", "bin -binary -o hex -intel -obs=32", "hex -intel -o bin -binary");
+}
+
+TEST(Intel_Hex_Files, GoToObjcopyAndBack) {
+  Exchange_Files_With("objcopy", "-I binary -O ihex bin hex", "-I ihex -O binary hex bin");
 }
 
 }  // namespace
