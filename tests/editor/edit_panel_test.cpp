@@ -5,7 +5,9 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <string_view>
+#include <cstdint>
+#include <string>
+#include <tuple>
 #include <vector>
 
 #include "core/state/state.h"
@@ -18,7 +20,8 @@
 namespace wrenbit {
 namespace {
 
-enum class In { Hex, Dec, Asc, Bit };
+enum In { Hex, Dec, Asc, Bit };
+TextBox* const kBoxes[] = {&frmMain.Text_modify_hex, &frmMain.Text_modify_dec, &frmMain.Text_modify_asc};
 
 class Edit_Panel : public testing::Test {
  protected:
@@ -39,24 +42,19 @@ class Edit_Panel : public testing::Test {
     ImageBuffer[17] = byte;
     EXPECT_EQ(Click(2, 2), "アドレス:17");
   }
-  static void Enter(In box, const std::string& text) {
-    if (box == In::Hex) frmMain.Text_modify_hex.Edit(text);
-    if (box == In::Dec) frmMain.Text_modify_dec.Edit(text);
-    if (box == In::Asc) frmMain.Text_modify_asc.Edit(text);
-    if (box == In::Bit) {
-      CheckBox& bit = frmMain.ChkBin[static_cast<std::size_t>(text[0] - '0')];
-      bit.Set_Value(1 - bit.Value());
-    }
+  static void Enter(In way, const std::string& text) {
+    if (way != Bit) return kBoxes[way]->Edit(text);
+    CheckBox& bit = frmMain.ChkBin.at(static_cast<std::size_t>(std::stoi(text)));
+    bit.Set_Value(1 - bit.Value());
   }
   // What the panel shows.
   static std::string Boxes() {
-    std::string shown = frmMain.Text_modify_hex.Text() + " " + frmMain.Text_modify_dec.Text() + " " +
-                        frmMain.Text_modify_asc.Text() + " ";
+    std::string shown;
+    for (const TextBox* box : kBoxes) shown += box->Text() + " ";
     for (auto bit = frmMain.ChkBin.rbegin(); bit != frmMain.ChkBin.rend(); ++bit)
       shown += std::to_string(bit->Value());
     return shown;
   }
-  static std::string_view Row_Text() { return frmMain.MSFGrid1.Cell(2, 17); }
 };
 
 TEST_F(Edit_Panel, ASelectedByteIsShownInAllFourWays) {
@@ -85,69 +83,61 @@ TEST_F(Edit_Panel, TheAsciiColumnStandsForTheLastByteAndAHeaderOrAnEmptyGridForN
   MemSize = 0;
   Buffer_Init();
   EXPECT_EQ(Click(1, 1), "アドレス:15");
-  for (const In box : {In::Hex, In::Dec, In::Asc, In::Bit}) Enter(box, "1");
+  for (const In box : {Hex, Dec, Asc, Bit}) Enter(box, "1");
   EXPECT_EQ(UpdatingControls, 0);
 }
 
 TEST_F(Edit_Panel, EveryInputComesOutAsItsBoxesByteAndCell) {
-  const struct {
-    std::uint8_t Before;
-    In Box;
-    std::vector<const char*> Entered;  // The box's text after each key.
-    std::uint8_t After;
-    const char* Boxes;
-  } cases[] = {
-      {0xFF, In::Hex, {"4"}, 0x04, "4 4 ･ 00000100"},
-      {0xFF, In::Hex, {"4", "41"}, 0x41, "41 65 A 01000001"},
-      {0xFF, In::Hex, {"b", "b1"}, 0xB1, "b1 177 ｱ 10110001"},
-      {0x12, In::Hex, {""}, 0x00, " 0 ･ 00000000"},
-      {0x12, In::Hex, {"あ2"}, 0x02, "あ2 2 ･ 00000010"},
-      {0x00, In::Dec, {"3", "30", "300"}, 0xFF, "FF 255 ･ 11111111"},
-      {0x07, In::Dec, {""}, 0xFF, "FF 255 ･ 11111111"},
-      {0x07, In::Dec, {"1e2"}, 0xFF, "FF 255 ･ 11111111"},
-      {0x07, In::Dec, {" 1"}, 0xFF, "FF 255 ･ 11111111"},
-      {0x07, In::Dec, {"１"}, 0xFF, "FF 255 ･ 11111111"},
-      {0x41, In::Dec, {"-1"}, 0x41, "41 -1 A 01000001"},
-      {0x41, In::Dec, {"256"}, 0xFF, "FF 255 ･ 11111111"},
-      {0x41, In::Dec, {"-.5"}, 0x00, "00 -.5 ･ 00000000"},
-      {0x41, In::Dec, {"+66"}, 0x42, "42 +66 B 01000010"},
-      {0x41, In::Dec, {"1.5"}, 0x02, "02 1.5 ･ 00000010"},
-      {0x41, In::Dec, {"2.5"}, 0x02, "02 2.5 ･ 00000010"},
-      {0x00, In::Asc, {" "}, 0x20, "20 32   00100000"},
-      {0x00, In::Asc, {"ｱ"}, 0xB1, "B1 177 ｱ 10110001"},
-      {0x00, In::Asc, {"･"}, 0xA5, "A5 165 ･ 10100101"},
-      {0x41, In::Asc, {""}, 0x41, "41 65  01000001"},
-      {0x41, In::Asc, {"あ"}, 0x41, "41 65 あ 01000001"},
-      {0x41, In::Asc, {"¥"}, 0x41, "41 65 ¥ 01000001"},
-      {0xFF, In::Bit, {"7"}, 0x7F, "7F 127 \x7F 01111111"},
-      {0x00, In::Bit, {"0", "6"}, 0x41, "41 65 A 01000001"},
+  using Texts = std::vector<const char*>;  // Of the box, after each key.
+  const std::tuple<std::uint8_t, In, Texts, std::uint8_t, const char*> cases[] = {
+      {0xFF, Hex, {"4"}, 0x04, "4 4 ･ 00000100"},
+      {0xFF, Hex, {"4", "41"}, 0x41, "41 65 A 01000001"},
+      {0xFF, Hex, {"b", "b1"}, 0xB1, "b1 177 ｱ 10110001"},
+      {0x12, Hex, {""}, 0x00, " 0 ･ 00000000"},
+      {0x12, Hex, {"あ2"}, 0x02, "あ2 2 ･ 00000010"},
+      {0x00, Dec, {"2", "25", "256"}, 0xFF, "FF 255 ･ 11111111"},
+      {0x07, Dec, {""}, 0xFF, "FF 255 ･ 11111111"},
+      {0x07, Dec, {"1e2"}, 0xFF, "FF 255 ･ 11111111"},
+      {0x07, Dec, {" 1"}, 0xFF, "FF 255 ･ 11111111"},
+      {0x07, Dec, {"１"}, 0xFF, "FF 255 ･ 11111111"},
+      {0x41, Dec, {"-1"}, 0x41, "41 -1 A 01000001"},
+      {0x41, Dec, {"-.5"}, 0x00, "00 -.5 ･ 00000000"},
+      {0x41, Dec, {"+66"}, 0x42, "42 +66 B 01000010"},
+      {0x41, Dec, {"1.5"}, 0x02, "02 1.5 ･ 00000010"},
+      {0x41, Dec, {"2.5"}, 0x02, "02 2.5 ･ 00000010"},
+      {0x00, Asc, {" "}, 0x20, "20 32   00100000"},
+      {0x00, Asc, {"ｱ"}, 0xB1, "B1 177 ｱ 10110001"},
+      {0x00, Asc, {"･"}, 0xA5, "A5 165 ･ 10100101"},
+      {0x41, Asc, {""}, 0x41, "41 65  01000001"},
+      {0x41, Asc, {"あ"}, 0x41, "41 65 あ 01000001"},
+      {0x41, Asc, {"¥"}, 0x41, "41 65 ¥ 01000001"},
+      {0xFF, Bit, {"7"}, 0x7F, "7F 127 \x7F 01111111"},
+      {0x00, Bit, {"0", "6"}, 0x41, "41 65 A 01000001"},
   };
-  for (const auto& c : cases) {
-    SCOPED_TRACE(c.Boxes);
-    Select(c.Before);
-    for (const char* text : c.Entered) Enter(c.Box, text);
-    EXPECT_EQ(ImageBuffer[17], c.After);
-    EXPECT_EQ(Boxes(), c.Boxes);
-    EXPECT_EQ(std::stoi(std::string(frmMain.MSFGrid1.Cell(2, 2)), nullptr, 16), c.After);
+  for (const auto& [before, way, texts, after, boxes] : cases) {
+    SCOPED_TRACE(boxes);
+    Select(before);
+    for (const char* text : texts) Enter(way, text);
+    EXPECT_EQ(ImageBuffer[17], after);
+    EXPECT_EQ(Boxes(), boxes);
+    EXPECT_EQ(std::stoi(std::string(frmMain.MSFGrid1.Cell(2, 2)), nullptr, 16), after);
     EXPECT_EQ(frmMain.LblCheckSUM.Caption(), CheckSum_Text());
   }
 }
 
 TEST_F(Edit_Panel, AnEditShowsItsWholeRowByItsOwnRule) {
-  const Bytes others{'"', ' ', ',', 0x7F, 0x1F, 0xA0, 0xDF, 0xE0};
-  Select(0xFF);
-  std::ranges::copy(others, ImageBuffer.begin() + 18);
+  std::ranges::copy(Bytes{'"', ' ', ',', 0x7F, 0x1F, 0xA0, 0xDF, 0xE0}, ImageBuffer.begin() + 18);
   Grid_Refill();
-  EXPECT_EQ(Row_Text(), "･････\x7F･\u00A0ﾟ･･･････");
+  EXPECT_EQ(frmMain.MSFGrid1.Cell(2, 17), "･････\x7F･\u00A0ﾟ･･･････");
   Select(0xFF);
-  Enter(In::Hex, "2C");
-  EXPECT_EQ(Row_Text(), "･,\" ,\x7F･\u00A0ﾟ･･･････");
+  Enter(Hex, "2C");
+  EXPECT_EQ(frmMain.MSFGrid1.Cell(2, 17), "･,\" ,\x7F･\u00A0ﾟ･･･････");
 }
 
 TEST_F(Edit_Panel, AfterAReadThatFailedAnEditBringsBoxesBitsAndChecksumUpToDateAndNotTheGrid) {
   Grid_Out_Of_Date();
   EXPECT_FALSE(frmMain.ChkBin[0].OutOfDate().empty());
-  Enter(In::Hex, "2C");
+  Enter(Hex, "2C");
   EXPECT_EQ(frmMain.ChkBin[0].OutOfDate() + frmMain.LblCheckSUM.OutOfDate(), "");
   EXPECT_FALSE(frmMain.MSFGrid1.OutOfDate().empty());
 }
@@ -156,22 +146,20 @@ TEST_F(Edit_Panel, AfterAReadThatFailedAnEditBringsBoxesBitsAndChecksumUpToDateA
 TEST_F(Edit_Panel, AnEditGoesToTheCellThatIsCurrentNow) {
   Select(0x41);
   frmMain.MSFGrid1.Set_Col(3);
-  Enter(In::Asc, "A");
+  Enter(Asc, "A");
   EXPECT_EQ(ImageBuffer[18], 0x41) << "though the box showed an A already";
   EXPECT_EQ(frmMain.MSFGrid1.Col(), 3);
 
   frmMain.MSFGrid1.Set_Col(17);
   const auto before = ImageBuffer;
-  for (const In box : {In::Hex, In::Dec, In::Asc, In::Bit}) Enter(box, "0");
+  for (const In box : {Hex, Dec, Asc, Bit}) Enter(box, "0");
   EXPECT_EQ(ImageBuffer, before);
   EXPECT_EQ(Boxes(), "0 0 0 01000000") << "the bit was clicked, the boxes keep what was typed";
 }
 
 TEST_F(Edit_Panel, TheHexBoxTakesHexDigitsAndTheBackspace) {
   std::string passed;
-  const int full_width_a = -191;
-  for (const int typed : std::vector<int>{'0', '9', ':', '/', 'a', 'f', 'F', 'g', 'G', '@', '`', '\b', '\r',
-                                          '\x1B', ' ', full_width_a}) {
+  for (const char16_t typed : std::u16string(u"09:/afFgG@`\b\r\u001B ａ")) {
     auto key = static_cast<std::int16_t>(typed);
     frmMain.Text_modify_hex.KeyPress(key);
     if (key) passed += static_cast<char>(key);
