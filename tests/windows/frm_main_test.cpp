@@ -30,10 +30,6 @@ TEST_F(Main_Window, EachCommandHasItsOwnEffect) {
   const auto opened = [&] { return dialog == "open"; };
   const auto saved = [&] { return dialog == "save"; };
   const auto port_window = [] { return frmCom.Visible(); };
-  const auto about = [] { return frmAbout.Visible(); };
-  const auto cleared = [] { return Panel(1) == "ＰＣのバッファをクリアしました。"; };
-  const auto helped = [&] { return bench.Helps == std::vector<std::string>{App.HelpFile}; };
-  const auto ended = [&] { return bench.Ended; };
   // Chip and image begin with other bytes at every address.
   const Bytes image(16, 0x11), chip(16, 0x22);
   Bytes byte_read = image, byte_written = chip;
@@ -64,11 +60,12 @@ TEST_F(Main_Window, EachCommandHasItsOwnEffect) {
   expect(frmMain.Cmd_WRITE_single, "Byte Write", holds(image, byte_written));
   expect(frmMain.mnuFileOpen, "ファイルをロード(&O)...", opened);
   expect(frmMain.mnuFileSaveAs, "名前を付けて保存(&A)...", saved);
-  expect(frmMain.mnuBufferClear, "バッファをクリア(&B)", cleared);
+  expect(frmMain.mnuBufferClear, "バッファをクリア(&B)",
+         [] { return Panel(1) == "ＰＣのバッファをクリアしました。"; });
   expect(frmMain.mnuToolsOptions, "COMポート設定(&O)...", port_window);
-  expect(frmMain.mnuHelpAbout, "ﾊﾞｰｼﾞｮﾝ情報(&A)", about);
-  expect(frmMain.mnuHelpContents, "目次(&C)", helped);
-  expect(frmMain.mnuFileExit, "終了(&X)", ended);
+  expect(frmMain.mnuHelpAbout, "ﾊﾞｰｼﾞｮﾝ情報(&A)", [] { return frmAbout.Visible(); });
+  expect(frmMain.mnuHelpContents, "目次(&C)", [&] { return bench.Helps == std::vector{App.HelpFile}; });
+  expect(frmMain.mnuFileExit, "終了(&X)", [&] { return bench.Ended; });
   frmMain.dlgCommonDialog = {};
 }
 
