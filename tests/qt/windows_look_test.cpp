@@ -10,7 +10,9 @@
 #include <QPainter>
 #include <QStyle>
 #include <algorithm>
+#include <functional>
 #include <initializer_list>
+#include <set>
 #include <string>
 #include <tuple>
 #include <utility>
@@ -27,10 +29,14 @@
 namespace wrenbit {
 namespace {
 
-std::vector<const Control*> Controls_Of_All_Windows() {
-  std::vector<const Control*> all;
-  for (const Form* form : std::initializer_list<Form*>{&frmMain, &frmCom, &frmAbout, &frmSplash})
-    all.insert(all.end(), form->Controls().begin(), form->Controls().end());
+// All that lies on the windows, with its view.
+std::vector<std::pair<const Control*, QWidget*>> Views_Of_All_Windows() {
+  std::vector<std::pair<const Control*, QWidget*>> all;
+  for (QWidget* window : QApplication::topLevelWidgets())
+    for (const Form* form : std::initializer_list<Form*>{&frmMain, &frmCom, &frmAbout, &frmSplash})
+      for (const Control* control : form->Controls())
+        if (auto* shown = dynamic_cast<Form_View*>(window); shown && shown->View_Of(*control))
+          all.emplace_back(control, shown->View_Of(*control));
   return all;
 }
 
@@ -42,6 +48,18 @@ QSize Trimmings(const Control& control) {
   return {dynamic_cast<const CommandButton*>(&control) ? 6 : 0, 0};
 }
 
+void Expect_Ink_Only_In(const QRect& room, const QFont& font, const std::function<void(QPainter&)>& paint) {
+  QImage picture(room.size() + QSize(40, 40), QImage::Format_RGB32);
+  picture.fill(Qt::white);
+  QPainter painter(&picture);
+  painter.setFont(font);
+  paint(painter);
+  // Faint edges of letters are no ink, and at its sides a letter may reach a pixel beyond its own width.
+  painter.fillRect(room.adjusted(-1, 0, 1, 0), Qt::white);
+  for (int y = 0; y < picture.height(); ++y)
+    for (int x = 0; x < picture.width(); ++x) ASSERT_GE(qGray(picture.pixel(x, y)), 160);
+}
+
 void Expect_Whole(const Control& control, const std::string& content, const QString& family) {
   SCOPED_TRACE(content + " in " + family.toStdString());
   const QString text = QString::fromStdString(content);
@@ -49,16 +67,8 @@ void Expect_Whole(const Control& control, const std::string& content, const QStr
   font.setFamilies({family});
   const QRect room(QPoint(20, 20), Pixels(control.At).size() - Trimmings(control));
   EXPECT_TRUE(Fit(text, font, room.size()).Whole);
-
-  QImage picture(room.size() + QSize(40, 40), QImage::Format_RGB32);
-  picture.fill(Qt::white);
-  QPainter painter(&picture);
-  painter.setFont(font);
-  Draw_Fitted(painter, room, dynamic_cast<const Label*>(&control) ? Qt::AlignTop : Qt::AlignVCenter, text);
-  // Faint edges of letters are no ink, and at its sides a letter may reach a pixel beyond its own width.
-  painter.fillRect(room.adjusted(-1, 0, 1, 0), Qt::white);
-  for (int y = 0; y < picture.height(); ++y)
-    for (int x = 0; x < picture.width(); ++x) ASSERT_GE(qGray(picture.pixel(x, y)), 160);
+  const auto side = dynamic_cast<const Label*>(&control) ? Qt::AlignTop : Qt::AlignVCenter;
+  Expect_Ink_Only_In(room, font, [&](QPainter& painter) { Draw_Fitted(painter, room, side, text); });
 }
 
 TEST(Windows, NoTextOfTheWindowsIsCut) {
@@ -71,7 +81,7 @@ TEST(Windows, NoTextOfTheWindowsIsCut) {
   ASSERT_FALSE(families.isEmpty());
   for (const QString& family : families) {
     Expect_Whole(frmMain.Text_modify_asc, "gy", family);
-    for (const Control* control : Controls_Of_All_Windows())
+    for (const auto& [control, view] : Views_Of_All_Windows())
       if (auto* captioned = dynamic_cast<const Captioned*>(control); captioned && control->At.Width > 0)
         Expect_Whole(*captioned, captioned->Caption(), family);
   }
@@ -91,68 +101,58 @@ TEST(Windows, LettersAreNarrowedBeforeTheyAreTakenAway) {
 
 TEST(Windows, WhateverIsOnThemHasARoleAndAName) {
   int named = 0;
-  for (QWidget* window : QApplication::topLevelWidgets())
-    for (const Control* control : Controls_Of_All_Windows()) {
-      const auto* form_view = dynamic_cast<Form_View*>(window);
-      QWidget* view = form_view ? form_view->View_Of(*control) : nullptr;
-      if (!view) continue;
-      const auto place = std::to_string(control->At.Left) + ',' + std::to_string(control->At.Top);
-      const QAccessibleInterface* seen = QAccessible::queryAccessibleInterface(view);
-      EXPECT_NE(seen->role(), QAccessible::Client) << place;
-      const auto* label = dynamic_cast<const Label*>(control);
-      if ((label && label->Caption().empty()) || dynamic_cast<const Line*>(control)) continue;
-      const QString name = seen->text(QAccessible::Name);
-      EXPECT_FALSE(name.isEmpty() || name.contains('&')) << place;
-      if (label) {
-        EXPECT_EQ(name.toStdString(), label->Caption()) << "and not the group's caption";
-      }
-      ++named;
-    }
+  for (const auto& [control, view] : Views_Of_All_Windows()) {
+    SCOPED_TRACE(testing::Message() << control->At.Left << ',' << control->At.Top);
+    const QAccessibleInterface* seen = QAccessible::queryAccessibleInterface(view);
+    EXPECT_NE(seen->role(), QAccessible::Client);
+    const auto* label = dynamic_cast<const Label*>(control);
+    if ((label && label->Caption().empty()) || dynamic_cast<const Line*>(control)) continue;
+    const QString name = seen->text(QAccessible::Name);
+    EXPECT_FALSE(name.isEmpty() || name.contains('&'));
+    EXPECT_TRUE(!label || name.toStdString() == label->Caption()) << "and not the group's caption";
+    ++named;
+  }
   EXPECT_GT(named, 50);
 }
 
 TEST(Windows, EachCharacterOfARowTakesOneColumnWhateverTheFontDrawsForIt) {
   for (const QString& family : QFontDatabase::families(QFontDatabase::Japanese)) {
-    QImage picture(150, 20, QImage::Format_Grayscale8);
-    picture.fill(Qt::white);
-    QPainter painter(&picture);
+    SCOPED_TRACE(family.toStdString());
     QFont font = Font_For({.Face = Typeface::FixedPitch});
     font.setFamilies({family});
-    painter.setFont(font);
-    Draw_In_Columns(painter, picture.rect(), QString(16, QChar(0x7F)));
-    const int end = static_cast<int>(16 * QFontMetricsF(font).horizontalAdvance('0')) + 1;
-    QImage behind(150 - end, 20, QImage::Format_Grayscale8);
-    behind.fill(Qt::white);
-    EXPECT_EQ(picture.copy(end, 0, 150 - end, 20), behind) << family.toStdString();
+    const QRect columns(20, 20, static_cast<int>(16 * QFontMetricsF(font).horizontalAdvance('0')), 20);
+    Expect_Ink_Only_In(columns, font, [&](QPainter& painter) {
+      Draw_In_Columns(painter, columns.adjusted(0, 0, 20, 0), QString(16, QChar(0x7F)));
+    });
   }
 }
 
 // At scales in between, whole logical pixels are none on the screen.
 TEST(Windows, AllLinesStandAtEveryScale) {
-  for (QWidget* window : QApplication::topLevelWidgets())
-    for (const double scale : {1.0, 1.25, 1.5, 1.75, 2.0})
-      for (const Control* control : std::initializer_list<const Control*>{
-               &frmMain.Frame1, &frmMain.Frame2, &frmMain.Frame3, &frmMain.MSFGrid1, &frmMain.Text_modify_dec,
-               &frmMain.ChkBin[7], &frmCom.Frame1}) {
-        const auto* form_view = dynamic_cast<Form_View*>(window);
-        const QWidget* view = form_view ? form_view->View_Of(*control) : nullptr;
-        if (!view) continue;
-        window->adjustSize();
-        QImage picture(window->size() * scale, QImage::Format_RGB32);
-        picture.setDevicePixelRatio(scale);
-        window->render(&picture);
-        const QPointF corner = QPointF(view->mapTo(window, QPoint())) * scale;
-        const QRect edges(QPoint(qRound(corner.x()), qRound(corner.y())),
-                          QPoint(qRound(corner.x() + view->width() * scale) - 1,
-                                 qRound(corner.y() + view->height() * scale) - 1));
-        // Three quarters along, where no caption stands in the line.
-        const int x = edges.left() + edges.width() * 3 / 4, y = edges.top() + edges.height() * 3 / 4;
-        const QColor line = Line_Colour(view->palette());
-        // A frame's upper line lies lower, behind its caption.
-        const int top = edges.top() + (dynamic_cast<const Frame*>(control) ? edges.height() - 1 : 0);
-        for (const QPoint at : {QPoint(edges.left(), y), {edges.right(), y}, {x, edges.bottom()}, {x, top}})
-          EXPECT_EQ(picture.pixelColor(at), line) << control->At.Left << " at " << scale;
-      }
+  const std::set<const Control*> lined{&frmMain.Frame1,   &frmMain.Frame2,          &frmMain.Frame3,
+                                       &frmMain.MSFGrid1, &frmMain.Text_modify_dec, &frmMain.ChkBin[7],
+                                       &frmCom.Frame1};
+  for (const auto& [control, view] : Views_Of_All_Windows())
+    for (const double scale : {1.0, 1.25, 1.5, 1.75, 2.0}) {
+      if (!lined.contains(control)) continue;
+      QWidget* window = view->window();
+      window->adjustSize();
+      QImage picture(window->size() * scale, QImage::Format_RGB32);
+      picture.setDevicePixelRatio(scale);
+      window->render(&picture);
+      const auto on_screen = [&](QPoint corner) {
+        corner = view->mapTo(window, corner);
+        return QPoint(qRound(corner.x() * scale), qRound(corner.y() * scale));
+      };
+      const QRect edges(on_screen({}), on_screen({view->width(), view->height()}) - QPoint(1, 1));
+      // Three quarters along, where no caption stands in the line.
+      const int x = edges.left() + edges.width() * 3 / 4, y = edges.top() + edges.height() * 3 / 4;
+      const QColor line = Line_Colour(view->palette());
+      // A frame's upper line lies lower, behind its caption.
+      const int top = dynamic_cast<const Frame*>(control) ? edges.bottom() : edges.top();
+      for (const QPoint at : {QPoint(edges.left(), y), {edges.right(), y}, {x, edges.bottom()}, {x, top}})
+        EXPECT_EQ(picture.pixelColor(at), line) << control->At.Left << " at " << scale;
+    }
 }
 
 TEST(Windows, GreyedTextsCanBeReadInLightAndInDarkPalettes) {
