@@ -27,13 +27,13 @@ class Hex_Grid : public testing::Test {
 };
 
 TEST_F(Hex_Grid, HasARowForEverySixteenBytesAndNoneForADeviceWithoutAUsableSize) {
-  for (const auto& [mem_size, rows, last_address, checksum] : {std::tuple{4, 2, "0x000000", "CheckSum:0FF0"},
-                                                               {17, 8193, "0x01FFF0", "CheckSum:0000"},
-                                                               {0, 1, "Adr.", "CheckSum:0000"},
-                                                               {3, 1, "Adr.", "CheckSum:0000"},
-                                                               {-1, 1, "Adr.", "CheckSum:0000"},
-                                                               {24, 1, "Adr.", "CheckSum:0000"},
-                                                               {1000, 1, "Adr.", "CheckSum:0000"}}) {
+  const std::tuple<int, int, const char*, const char*> cases[] = {
+      {3, 1, "Adr.", "CheckSum:0000"},         {4, 2, "0x000000", "CheckSum:0FF0"},
+      {17, 8193, "0x01FFF0", "CheckSum:0000"}, {0, 1, "Adr.", "CheckSum:0000"},
+      {-1, 1, "Adr.", "CheckSum:0000"},        {24, 1, "Adr.", "CheckSum:0000"},
+      {1000, 1, "Adr.", "CheckSum:0000"},
+  };
+  for (const auto& [mem_size, rows, last_address, checksum] : cases) {
     SCOPED_TRACE(mem_size);
     Blank_Image(mem_size);
     EXPECT_EQ(Image_Usable(), rows > 1);
