@@ -27,16 +27,16 @@ TEST(Intel_Hex_Writer, WritesFullRecordsAndTheEndRecord) {
 }
 
 TEST(Intel_Hex_Writer, ExtendsAddressesOnlyBeyond64KiB) {
-  constexpr std::size_t kBankText = 45 * 4096;  // A record has 45 characters, with its line end.
-  ImageBuffer.assign(65536, 0xFF);
+  constexpr std::size_t kBank = 65536, kBankText = kBank / 16 * 45;  // Each record with its line end.
+  ImageBuffer.assign(kBank, 0xFF);
   EXPECT_EQ(Intel_Hex_Text().substr(kBankText), ":00000001FF\r\n");
 
-  ImageBuffer.assign(3 * 65536, 0xFF);
+  ImageBuffer.assign(3 * kBank, 0xFF);
   const std::string text = Intel_Hex_Text();
   EXPECT_EQ(text.substr(kBankText - 45, 9), ":10FFF000");
   EXPECT_EQ(text.substr(kBankText, 26), ":020000040001F9\r\n:10000000");
   EXPECT_EQ(text.substr(2 * kBankText + 17, 26), ":020000040002F8\r\n:10000000");
-  EXPECT_EQ(text.size(), 3 * kBankText + 2 * 17 + 13);
+  EXPECT_EQ(text.size(), 3 * kBankText + 17 + 17 + 13);
 }
 
 // What a load stores into a blank image: all bytes that are not 0xFF afterwards.
