@@ -36,7 +36,7 @@ class Serial_Port : public testing::Test {
     Plug();
     EXPECT_EQ(port.Open(7, true, false), Port_Fault::None);
   }
-  ~Serial_Port() override { Unplug(); }
+  void TearDown() override { Unplug(); }
 
   void Plug() {
     char name[128];

@@ -140,11 +140,10 @@ TEST(Windows, AllLinesStandAtEveryScale) {
       QImage picture(window->size() * scale, QImage::Format_RGB32);
       picture.setDevicePixelRatio(scale);
       window->render(&picture);
-      const auto on_screen = [&](QPoint corner) {
-        corner = view->mapTo(window, corner);
-        return QPoint(qRound(corner.x() * scale), qRound(corner.y() * scale));
-      };
-      const QRect edges(on_screen({}), on_screen({view->width(), view->height()}) - QPoint(1, 1));
+      const QPointF corner = QPointF(view->mapTo(window, QPoint())) * scale;
+      const QRect edges(QPoint(qRound(corner.x()), qRound(corner.y())),
+                        QPoint(qRound(corner.x() + view->width() * scale) - 1,
+                               qRound(corner.y() + view->height() * scale) - 1));
       // Three quarters along, where no caption stands in the line.
       const int x = edges.left() + edges.width() * 3 / 4, y = edges.top() + edges.height() * 3 / 4;
       const QColor line = Line_Colour(view->palette());
