@@ -28,7 +28,7 @@ constexpr const char* kTheirFile = ".theirs";
 
 struct Converter {
   QString Program;
-  QStringList To_Binary, To_Hex;  // IN and OUT stand for the files.
+  QStringList ToBinary, ToHex;  // IN and OUT stand for the files.
 };
 
 const Converter kTheirs[] = {
@@ -71,8 +71,8 @@ void Measure_Conversions(Report& report) {
           [&] { return Convert(theirs.Program, theirs.*words, in, out + kTheirFile); });
       report.Add({bytes + subject, our, theirs.Program.toStdString(), their, "s", {}});
     };
-    in_turns("Intel HEX to binary", &Converter::To_Binary, hex, binary);
-    in_turns("binary to Intel HEX", &Converter::To_Hex, binary, hex);
+    in_turns("Intel HEX to binary", &Converter::ToBinary, hex, binary);
+    in_turns("binary to Intel HEX", &Converter::ToHex, binary, hex);
     for (const char* whose : {"", kTheirFile})
       if (Plain_Bytes((binary + whose).toStdString()) != image || Hex_Bytes(hex + whose) != image)
         throw std::runtime_error("a conversion made other bytes");

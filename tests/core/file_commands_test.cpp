@@ -73,14 +73,14 @@ TEST_F(File_Commands, ACancelledOrMissingFileChangesNothing) {
 TEST_F(File_Commands, AnExistingFileIsAskedForAndStandsWhenRefused) {
   answer = folder / "a.hex";
   Put_Content(answer, "old");
-  bench.Box_Answer = false;
+  bench.BoxAnswer = false;
   mnuFileSaveAs_Click();
   EXPECT_EQ(bench.Boxes, Texts{"上書き保存 | ファイルが存在します。上書きしますか？"});
   EXPECT_EQ(Panel(1), "ファイル保存をキャンセルしました。");
   EXPECT_EQ(Content(answer), "old");
   EXPECT_TRUE(bench.Stored.empty());
 
-  bench.Box_Answer = true;
+  bench.BoxAnswer = true;
   mnuFileSaveAs_Click();
   EXPECT_EQ(Content(answer).substr(0, 9), ":10000000");
   EXPECT_EQ(frmMain.Caption(), "Title  " + answer);

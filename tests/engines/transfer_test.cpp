@@ -89,7 +89,7 @@ TEST(Transfer_Failure, WithoutAChipOrALineATwoWireTransferFailsAndAThreeWireOneD
     const char* Chip;
     Board_Fault Meets;
     const char* Error;
-    std::uint8_t Bit_By_Bit, By_The_Board;  // The byte that a read gives.
+    std::uint8_t BitByBit, ByTheBoard;  // The byte that a read gives.
     bool Writes;
   } faults[] = {{"24C02", no_chip, "24Cxx Power on PortA error", 0xFF, 0xFF, false},
                 {"24C02", Stuck(Line::Sda, false), "24Cxx Power on PortA error", 0x00, 0x00, false},
@@ -116,7 +116,7 @@ TEST(Transfer_Failure, WithoutAChipOrALineATwoWireTransferFailsAndAThreeWireOneD
         const std::size_t moved = command.Block ? (failed ? 1 : image.size()) : (failed ? 0 : 1);
         if (!command.Writes) {
           if (command.Block) image.assign(image.size(), 0xFF);
-          std::fill_n(image.begin(), moved, by_bits ? fault.Bit_By_Bit : fault.By_The_Board);
+          std::fill_n(image.begin(), moved, by_bits ? fault.BitByBit : fault.ByTheBoard);
         } else if (fault.Writes) {
           std::copy_n(image.begin(), moved, chip.begin());
         }

@@ -61,9 +61,9 @@ void Test_Bench::Await_Event(double seconds) {
 
 bool Test_Bench::MsgBox(const std::string& text, Message_Icon icon, Message_Buttons,
                         const std::string& title) {
-  Box_Icon = icon;
+  BoxIcon = icon;
   Boxes.push_back(title + " | " + text);
-  return Box_Answer;
+  return BoxAnswer;
 }
 
 Port_Fault Test_Bench::Open(int number, bool rts, bool dtr) {

@@ -70,13 +70,13 @@ class Test_Bench : private Platform, private Settings_Store, private Serial_Back
     run();
     return now - from;
   }
-  std::function<void()> On_Yield;              // Runs inside every yield.
-  std::function<void()> On_Repaint = [] {};    // Inside every repaint.
-  Texts Boxes;                                 // Title, " | ", text of each message box.
-  Message_Icon Box_Icon = Message_Icon::None;  // Of the last one.
-  bool Box_Answer = true;
-  Texts Helps;              // The help files that were shown.
-  std::string Help_Answer;  // What showing one answers.
+  std::function<void()> On_Yield;             // Runs inside every yield.
+  std::function<void()> On_Repaint = [] {};   // Inside every repaint.
+  Texts Boxes;                                // Title, " | ", text of each message box.
+  Message_Icon BoxIcon = Message_Icon::None;  // Of the last one.
+  bool BoxAnswer = true;
+  Texts Helps;             // The help files that were shown.
+  std::string HelpAnswer;  // What showing one answers.
   bool Ended = false;
 
   std::map<std::string, std::string> Stored;  // The settings, by key.
@@ -95,7 +95,7 @@ class Test_Bench : private Platform, private Settings_Store, private Serial_Back
   void Sleep(int milliseconds) override { now += milliseconds / 1000.0; }
   bool MsgBox(const std::string& text, Message_Icon icon, Message_Buttons, const std::string& title) override;
   void Open_Address(const std::string&) override {}
-  std::string Show_Help(const std::string& path) override { return Helps.push_back(path), Help_Answer; }
+  std::string Show_Help(const std::string& path) override { return Helps.push_back(path), HelpAnswer; }
   void End() override { Ended = true; }
 
   std::string Get(const std::string&, const std::string& key, const std::string& otherwise) override {

@@ -71,12 +71,12 @@ TEST_F(Main_Window, EachCommandHasItsOwnEffect) {
 
 TEST_F(Main_Window, HelpThatCannotShowIsTold) {
   frmMain.Set_Caption("Caption");
-  bench.Help_Answer = "the reason";
+  bench.HelpAnswer = "the reason";
   frmMain.mnuHelpContents.Click();
-  EXPECT_EQ(bench.Box_Icon, Message_Icon::Information);
+  EXPECT_EQ(bench.BoxIcon, Message_Icon::Information);
   App.HelpFile = "/there/WRENBIT.HLP";
   frmMain.mnuHelpContents.Click();
-  EXPECT_EQ(bench.Box_Icon, Message_Icon::None);
+  EXPECT_EQ(bench.BoxIcon, Message_Icon::None);
   EXPECT_EQ(bench.Boxes, (std::vector<std::string>{"Caption | ﾍﾙﾌﾟの目次を表示できません。 "
                                                    "このﾌﾟﾛｼﾞｪｸﾄに関連付けられたﾍﾙﾌﾟが存在しません。",
                                                    "wrenbit | the reason"}));
