@@ -1,120 +1,142 @@
 #include "bench/report.h"
 
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
-#include <array>
+#include <QString>
+#include <chrono>
 #include <cmath>
 #include <cstddef>
-#include <cstdio>
 #include <iostream>
+#include <span>
 #include <utility>
-
-#include "core/state/utf8_text.h"
 
 namespace bench {
 namespace {
 
+constexpr int kRounds = 9;
+constexpr double kRoundTime = 0.02;  // Seconds.
+
+void Take_Round(benchmark::State& state, const Line& line) {
+  double work = 0;
+  while (state.KeepRunning()) {
+    const double once = line.Work();
+    work += once;
+    state.SetIterationTime(line.Unit == "seconds" ? once : 0);
+  }
+  state.counters[line.Unit] = {work, benchmark::Counter::kAvgIterations};
+  if (!line.Reference) return;
+  // Many calls go on for as long as those of the work, so that other programs disturb both alike.
+  double reference = 0;
+  int calls = 0;
+  do {
+    reference += line.Reference();
+    ++calls;
+  } while (state.iterations() > 1 && reference < work);
+  state.counters["reference"] = reference / calls;
+  state.SetLabel(line.Beside);
+}
+
 struct Scale {
-  double From;
-  double Factor;
-  const char* Unit;
+  double Size;
+  const char* Name;
 };
+constexpr Scale kTimes[] = {{1, "s"}, {1e-3, "ms"}, {1e-6, "µs"}, {1e-9, "ns"}};
+constexpr Scale kSizes[] = {{1 << 20, "MiB"}, {1 << 10, "KiB"}, {1, "B"}};
 
 // Three digits that count, in the unit that needs no zeros before them.
-std::string Amount(double value, const std::string& unit) {
-  static constexpr std::array<Scale, 4> kTimes{
-      {{1, 1, "s"}, {1e-3, 1e3, "ms"}, {1e-6, 1e6, "µs"}, {0, 1e9, "ns"}}};
-  static constexpr std::array<Scale, 3> kSizes{
-      {{1 << 20, 1.0 / (1 << 20), "MiB"}, {1 << 10, 1.0 / (1 << 10), "KiB"}, {-INFINITY, 1, "B"}}};
-  const auto shown = [&](const Scale& scale) {
-    std::array<char, 64> text;
-    const double number = value * scale.Factor;
-    std::snprintf(text.data(), text.size(), "%.*f %s",
-                  number < 10    ? 2
-                  : number < 100 ? 1
-                                 : 0,
-                  number, scale.Unit);
-    return std::string(text.data());
-  };
-  if (unit == "B") {
-    for (const Scale& scale : kSizes)
-      if (std::abs(value) >= scale.From) return shown(scale);
-  }
-  for (const Scale& scale : kTimes)
-    if (value >= scale.From) return shown(scale);
-  return {};
+QString Amount(double value, const std::string& unit) {
+  std::span<const Scale> scales = kTimes;
+  if (unit == "bytes") scales = kSizes;
+  while (scales.size() > 1 && std::abs(value) < scales.front().Size) scales = scales.subspan(1);
+  const double shown = value / scales.front().Size;
+  return QString::number(shown, 'f', shown < 10 ? 2 : shown < 100 ? 1 : 0) + ' ' + scales.front().Name;
 }
 
-std::string Number(double value) {
-  std::array<char, 32> text;
-  std::snprintf(text.data(), text.size(), "%.*f", value < 0.1 ? 4 : value < 10 ? 3 : 1, value);
-  return text.data();
-}
+QString Number(double value) { return QString::number(value, 'f', value < 0.1 ? 4 : value < 10 ? 3 : 1); }
 
-// Filled up with blanks to so many characters (UTF-8, all of one width).
-std::string Wide(const std::string& text, std::size_t width, bool right = false) {
-  const std::size_t length = wrenbit::Characters(text);
-  const std::string blanks(length < width ? width - length : 0, ' ');
-  return right ? blanks + text : text + blanks;
-}
+struct Row {
+  QString Subject, Measured, Reference, Beside, Ratio, Goal, Remark;
+};
 
-std::string Row(const std::string& subject, const std::string& measured, const std::string& reference,
-                const std::string& beside, const std::string& ratio, const std::string& goal,
-                const std::string& remark) {
-  std::string row = Wide(subject, 44) + Wide(measured, 10, true) + Wide(reference, 11, true) + "  " +
-                    Wide(beside, 34) + Wide(ratio, 7, true) + Wide(goal, 8, true) + "  " + remark;
-  row.erase(row.find_last_not_of(' ') + 1);
-  return row + "\n";
-}
-
-std::string Row(const Line& line) {
-  const bool compared = !line.Beside.empty();
-  return Row("  " + line.Subject, Amount(line.Measured, line.Unit),
-             compared ? Amount(line.Reference, line.Unit) : "", line.Beside,
-             compared ? Number(line.Ratio()) : "", line.Goal ? Number(*line.Goal) : "",
-             line.Missed() ? "MISSED" : "");
+void Print(const Row& row) {
+  QString line = row.Subject.leftJustified(44) + row.Measured.rightJustified(10) +
+                 row.Reference.rightJustified(11) + "  " + row.Beside.leftJustified(34) +
+                 row.Ratio.rightJustified(7) + row.Goal.rightJustified(8) + "  " + row.Remark;
+  while (line.endsWith(' ')) line.chop(1);
+  std::cout << line.toStdString() << std::endl;
 }
 
 }  // namespace
 
-void Report::Begin(std::string heading) { sections.push_back({std::move(heading), {}}); }
-
-void Report::Add(Line line) {
-  std::cerr << Row(line);
-  sections.back().Lines.push_back(std::move(line));
+double Seconds(const std::function<void()>& work) {
+  const auto start = std::chrono::steady_clock::now();
+  work();
+  return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
 }
 
-std::string Report::Table() const {
-  std::string table = Row("", "measured", "beside it", "", "ratio", "goal", "");
-  for (const Section& section : sections) {
-    table += section.Heading + "\n";
-    for (const Line& line : section.Lines) table += Row(line);
-  }
-  return table;
+std::function<double()> Timed(std::function<void()> work, std::function<void()> settle) {
+  return [work = std::move(work), settle = std::move(settle)] {
+    const double seconds = Seconds(work);
+    if (settle) settle();
+    return seconds;
+  };
 }
 
-std::string Report::Json(const std::string& machine) const {
-  const auto text = [](const std::string& utf8) { return QString::fromStdString(utf8); };
-  QJsonArray lines;
-  for (const Section& section : sections)
-    for (const Line& line : section.Lines) {
-      QJsonObject object{{"section", text(section.Heading)},
-                         {"subject", text(line.Subject)},
-                         {"measured", line.Measured},
-                         {"unit", text(line.Unit)}};
-      if (!line.Beside.empty()) {
-        object["beside"] = text(line.Beside);
-        object["reference"] = line.Reference;
-        object["ratio"] = line.Ratio();
-      }
-      if (line.Goal) {
-        object["goal"] = *line.Goal;
-        object["met"] = !line.Missed();
-      }
-      lines.append(object);
+Report::Report(const std::string& machine) {
+  benchmark::AddCustomContext("machine", machine);
+  json.SetOutputStream(&text);
+  std::cout << machine << "\n\n";
+  Print({{}, "measured", "beside it", {}, "ratio", "goal", {}});
+}
+
+void Report::Begin(const std::string& heading) {
+  section = heading;
+  std::cout << heading << std::endl;
+}
+
+Medians Report::Measure(const Line& line, int rounds) { return Run_Line(line, rounds, Calls::One); }
+
+Medians Report::Measure_Small(const Line& line) { return Run_Line(line, kRounds, Calls::Many); }
+
+Medians Report::Run_Line(const Line& line, int rounds, Calls calls) {
+  benchmark::ClearRegisteredBenchmarks();
+  auto& registered = *benchmark::RegisterBenchmark(
+      (section + "/" + line.Subject).c_str(), [&line](benchmark::State& state) { Take_Round(state, line); });
+  registered.UseManualTime()->Unit(benchmark::kSecond)->Repetitions(rounds)->DisplayAggregatesOnly();
+  calls == Calls::One ? registered.Iterations(1) : registered.MinTime(kRoundTime);
+  benchmark::RunSpecifiedBenchmarks(this);
+
+  auto& counters = median.counters;
+  Row row;
+  row.Subject = "  " + QString::fromStdString(line.Subject);
+  row.Measured = Amount(counters[line.Unit], line.Unit);
+  if (line.Reference) {
+    const double ratio = counters[line.Unit] / counters["reference"];
+    row.Reference = Amount(counters["reference"], line.Unit);
+    row.Beside = QString::fromStdString(line.Beside);
+    row.Ratio = Number(ratio);
+    counters["ratio"] = ratio;
+    if (line.Goal) {
+      row.Goal = Number(*line.Goal);
+      row.Remark = ratio > *line.Goal ? "MISSED" : "";
+      counters["goal"] = *line.Goal;
     }
-  return QJsonDocument(QJsonObject{{"machine", text(machine)}, {"lines", lines}}).toJson().toStdString();
+  }
+  Print(row);
+  json.ReportRuns({median});
+  return {counters[line.Unit], counters["reference"]};
+}
+
+bool Report::ReportContext(const Context& context) {
+  return text.tellp() > 0 || json.ReportContext(context);  // Comes once a line.
+}
+
+void Report::ReportRuns(const std::vector<Run>& runs) {
+  for (const Run& run : runs)
+    if (run.aggregate_name == "median" || run.run_type == Run::RT_Iteration) median = run;
+}
+
+std::string Report::Json() {
+  json.Finalize();
+  return text.str();
 }
 
 }  // namespace bench
