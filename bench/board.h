@@ -20,9 +20,9 @@ struct Traffic {
   std::uint64_t Commands = 0;
   std::uint64_t Out = 0;   // Bytes to the board.
   std::uint64_t Back = 0;  // Bytes from it.
-  // Seconds that the wire needs for it at 9600 baud, 8N1. An answer is awaited before the next command goes
+  // Seconds that the wire needs for it. An answer is awaited before the next command goes
   // out, so the two directions add up.
-  double Wire_Time() const { return static_cast<double>(Out + Back) * 10 / 9600; }
+  double Wire_Time() const { return static_cast<double>(Out + Back) * wrenbit::MSComm::kByteTime; }
   bool operator==(const Traffic&) const = default;
 };
 

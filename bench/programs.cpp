@@ -75,7 +75,7 @@ class Showing {
 // The words IN and OUT stand for the files.
 struct Converter {
   QString Program;
-  QStringList To_Binary, To_Hex;
+  QStringList ToBinary, ToHex;
 };
 
 const Converter kTheirs[] = {
@@ -147,8 +147,8 @@ void Measure_Conversions(Report& report, const QDir& scratch) {
                       [&] { return Convert(theirs.Program, theirs.*words, in, out + kTheirFile); }},
                      kRounds);
     };
-    measure("Intel HEX to binary", &Converter::To_Binary, hex, binary);
-    measure("binary to Intel HEX", &Converter::To_Hex, binary, hex);
+    measure("Intel HEX to binary", &Converter::ToBinary, hex, binary);
+    measure("binary to Intel HEX", &Converter::ToHex, binary, hex);
     for (const char* whose : {"", kTheirFile})
       if (File_Bytes((binary + whose).toStdString()) != image || Hex_Bytes(hex + whose) != image)
         throw std::runtime_error("a conversion made other bytes");
