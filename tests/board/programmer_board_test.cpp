@@ -28,7 +28,7 @@ TEST(Programmer_Board, Says_Its_Version_Behind_Anything_And_Has_Accelerators_Fro
 TEST(Faulty_Board, Spoils_The_Counted_Reply_And_No_Other) {
   Test_Pc pc;
   board::Faulty_Board faulty(pc.Board);
-  pc.Spoken_To = &faulty;
+  pc.SpokenTo = &faulty;
   using Replies = std::vector<Bytes>;
   const auto three_replies = [&](const board::Faults& faults) {
     faulty.Arm(faults);

@@ -17,12 +17,12 @@ struct Test_Pc {
     Bytes said, bytes(word.begin(), word.end());
     bytes.insert(bytes.end(), operands.begin(), operands.end());
     for (const std::uint8_t byte : bytes) {
-      const auto answer = Spoken_To->Receive(byte);
+      const auto answer = SpokenTo->Receive(byte);
       said.insert(said.end(), answer.Bytes.begin(), answer.Bytes.end());
     }
     return said;
   }
 
   board::Programmer_Board Board;
-  board::Wire_End* Spoken_To = &Board;
+  board::Wire_End* SpokenTo = &Board;
 };
