@@ -42,17 +42,17 @@ struct Sample : Form {
   CommandButton Wired{Group, {150, 300, 900, 600}, "Wired"};
   CommandButton Unwired{Group, {1200, 300, 900, 600}, "Unwired"};
   CheckBox Tick{Group, {150, 1200, 900, 300}, "Tick"};
-  CheckBox Fixed_Tick{Group, {1200, 1200, 900, 300}, "Fixed"};
+  CheckBox FixedTick{Group, {1200, 1200, 900, 300}, "Fixed"};
   CheckBox Bit{*this, {5400, 300, 195, 195}, ""};
   TextBox Box{*this, {3150, 300, 900, 240}, 3, {}};
-  TextBox Fixed_Box{*this, {4200, 300, 900, 240}, 3, {}};
+  TextBox FixedBox{*this, {4200, 300, 900, 240}, 3, {}};
   ComboBox List{*this, {3150, 900, 900, 300}};
   Label Behind{*this, {3150, 1500, 900, 300}, "wait"};
   Label Above{*this, {3150, 1500, 1500, 300}, "done"};
   StatusBar Bar{*this, {0, 2700, 6000, 300}, {1500, 1500, 1500, 1500}};
   Menu Drop{*this, "Drop(&D)"};
   Menu Entry{Drop, "Entry"};
-  Menu Idle_Entry{Drop, "Idle"};
+  Menu IdleEntry{Drop, "Idle"};
 };
 
 class Views : public testing::Test {
@@ -85,11 +85,11 @@ TEST_F(Views, OnlyWhatHasAHandlerAndIsReachableTakesClicks) {
   EXPECT_EQ(Clicked(form.Group), 1);
   EXPECT_EQ(Clicked(form.Wired), 1);
   EXPECT_EQ(Clicked(form.Tick), 1);
-  Clicked(form.Fixed_Tick);
-  EXPECT_EQ(form.Tick.Value() - form.Fixed_Tick.Value(), 1);
+  Clicked(form.FixedTick);
+  EXPECT_EQ(form.Tick.Value() - form.FixedTick.Value(), 1);
   EXPECT_FALSE(View<QPushButton>(form.Unwired).isEnabled());
   EXPECT_FALSE(View<QMenu>(form.Drop).actions()[1]->isEnabled());
-  EXPECT_TRUE(View<QLineEdit>(form.Fixed_Box).isReadOnly());
+  EXPECT_TRUE(View<QLineEdit>(form.FixedBox).isReadOnly());
   form.Group.Set_Enabled(false);
   EXPECT_EQ(Clicked(form.Wired) + Clicked(form.Tick), 0);
 }
@@ -266,7 +266,7 @@ TEST_F(Views, AModalWindowOpensWithTheFocusAtItsBeginningAndGoesWhenItsFormLetsI
     QTimer::singleShot(0, [&] {
       EXPECT_EQ(QApplication::activeModalWidget(), &view);
       EXPECT_EQ(view.focusWidget(), view.View_Of(box.Box)) << "the first that is offered";
-      view.View_Of(box.Fixed_Box)->setFocus();
+      view.View_Of(box.FixedBox)->setFocus();
       box.Close_Asked = [&] { ++asked; };
       view.close();
       EXPECT_TRUE(view.isVisible());
