@@ -10,6 +10,7 @@
 #include "board/faulty_board.h"
 #include "editor/hex_grid.h"
 #include "image/hex_text.h"
+#include "link/identity.h"
 #include "tests/support/chip_bench.h"
 
 namespace wrenbit {
@@ -222,7 +223,7 @@ class One_Run {
   // The last read-back of the power-off is the one that failed.
   std::string Error_Text() const {
     if (!On_The_Bus()) {
-      const bool answered = Bench.Received >= std::size_t{2} * 17;  // To both queries.
+      const bool answered = Bench.Received >= 2 * kIdentityLength;  // To both queries.
       const char* reason = Faulty.Gone() ? "ポートが切断されました。" : "";
       return std::string("プログラマ接続確認エラー。") + (answered ? "" : "【1】") + reason;
     }
