@@ -42,7 +42,10 @@ TEST_F(File_Commands, ASavedImageComesBack) {
 
   Buffer_Init();
   frmMain.Set_Caption("");
+  bench.Stored["OPEN_DIR0"] = "/last";
   mnuFileOpen_Click();
+  EXPECT_EQ(dialog.InitDir + dialog.DefaultExt + dialog.Filter,
+            "/lastHEXHexファイル|*.HEX|全てのファイル|*.*|");
   EXPECT_EQ(ImageBuffer, image);
   EXPECT_EQ(frmMain.MSFGrid1.Cell(8, 16), "0x7D");
   EXPECT_EQ(Panel(1), "ファイルオープン完了");

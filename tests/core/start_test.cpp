@@ -91,8 +91,10 @@ TEST_F(Start, ASecondInstanceEndsWithoutAWordAndWithoutACatalogueItSaysSo) {
 }
 
 TEST_F(Start, BadRowsAreToldOnceAndTheGoodOnesServe) {
-  Catalogue_File("A I2C 2 eight\n24C02 I2C 2 8 8 1 0 2Kbit\n");
-  bench.Stored["DUT"] = "1";
+  std::string rows = "24C02 I2C 2 8 8 1 0 2Kbit\n";
+  for (int i = 0; i < 17; ++i) rows = "A I2C 2 eight\n" + rows;
+  Catalogue_File(rows);
+  bench.Stored["DUT"] = "17";
   // Dismisses the splash; the start goes on.
   bool seen = false;
   bench.On_Yield = [&] {
@@ -102,7 +104,9 @@ TEST_F(Start, BadRowsAreToldOnceAndTheGoodOnesServe) {
   };
   EXPECT_TRUE(Main() && seen);
   ASSERT_EQ(bench.Boxes.size(), 1U);
-  EXPECT_NE(bench.Boxes[0].find("1行目: A の列3"), std::string::npos);
+  EXPECT_NE(bench.Boxes[0].find("\r\n1行目: A の列3"), std::string::npos);
+  EXPECT_EQ(bench.Boxes[0].find("16行目"), std::string::npos);
+  EXPECT_TRUE(bench.Boxes[0].ends_with("\r\nほか2件")) << bench.Boxes[0];
   EXPECT_EQ(frmMain.Combo_device.Text(), "24C02    I2C");
   EXPECT_TRUE(frmMain.Visible());
 }

@@ -1,20 +1,12 @@
 // Selecting a byte in the hex grid, and editing it in each of its four ways.
 #include "editor/edit_panel.h"
 
-#include <gtest/gtest.h>
-
 #include <algorithm>
-#include <cstddef>
-#include <cstdint>
-#include <string>
 #include <tuple>
-#include <vector>
 
-#include "core/state/state.h"
 #include "editor/cell_selection.h"
 #include "editor/hex_grid.h"
 #include "image/image_buffer.h"
-#include "shell/controls/frm_main.h"
 #include "tests/support/test_bench.h"
 
 namespace wrenbit {
@@ -140,6 +132,7 @@ TEST_F(Edit_Panel, AfterAReadThatFailedAnEditBringsBoxesBitsAndChecksumUpToDateA
   Enter(Hex, "2C");
   EXPECT_EQ(frmMain.ChkBin[0].OutOfDate() + frmMain.LblCheckSUM.OutOfDate(), "");
   EXPECT_FALSE(frmMain.MSFGrid1.OutOfDate().empty());
+  EXPECT_TRUE(frmMain.MSFGrid1.Weak(3, 1));
 }
 
 // The arrow keys move the current cell and tell the panel nothing.

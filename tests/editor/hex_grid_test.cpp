@@ -1,16 +1,9 @@
 // The filling of the hex grid: its shape, its cells, and what a refill leaves behind.
 #include "editor/hex_grid.h"
 
-#include <gtest/gtest.h>
-
-#include <cstddef>
-#include <cstdint>
-#include <string>
 #include <tuple>
 
-#include "core/state/state.h"
 #include "image/image_buffer.h"
-#include "shell/controls/frm_main.h"
 #include "tests/support/test_bench.h"
 
 namespace wrenbit {

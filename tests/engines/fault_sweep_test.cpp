@@ -1,11 +1,7 @@
 // Every transfer, with every fault, at every place where it can strike: n = 1, 2, 3 ... until a run meets no
 // fault any more. What must hold in each of these runs is the list in Violation.
 #include <algorithm>
-#include <cstddef>
-#include <cstdint>
 #include <iostream>
-#include <string>
-#include <vector>
 
 #include "board/faulty_board.h"
 #include "editor/hex_grid.h"

@@ -81,6 +81,20 @@ TEST(Byte_Transfer, TheThreeWireWriteBringsTheEditPanelUpToDateWhateverCameOfIt)
   }
 }
 
+TEST(Byte_Transfer, WithoutACurrentCellNothingIsMovedAndThePortIsNotTouched) {
+  for (const Command& command : {kCommands[2], kCommands[3]}) {
+    Chip_Bench bench("24C02", "5.00");
+    bench.Fill_Chip(1);
+    const Bytes image = ImageBuffer, chip = bench.Chip_Contents();
+    frmMain.MSFGrid1.Set_Row(0);
+    command.Run();
+    EXPECT_EQ(Panel(1), "アドレスが選択されていません。");
+    EXPECT_EQ(ImageBuffer, image);
+    EXPECT_EQ(bench.Chip_Contents(), chip);
+    EXPECT_TRUE(bench.Opened.empty());
+  }
+}
+
 // The three-wire bus has no acknowledge: what only a look at the chip would tell ends as a good transfer.
 TEST(Transfer_Failure, WithoutAChipOrALineATwoWireTransferFailsAndAThreeWireOneDoesNotNotice) {
   using board::Line;

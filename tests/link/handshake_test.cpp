@@ -80,6 +80,13 @@ TEST_F(Handshake_Test, NoPartOfAnAnswerThatIsLongOrComesInPiecesIsTakenForTheNex
   }
 }
 
+TEST_F(Handshake_Test, AnAnswerThatBeginsWithinTheSecondIsHeardToItsEnd) {
+  Answer("TOLVEX fw. 5.00\r\n");
+  board.Replies.back().Late = 0.99;
+  Read_Version();
+  EXPECT_EQ(LinkError, 0);
+}
+
 TEST_F(Handshake_Test, TellsAVirtualPortFromAWireByItsSecondAnswerAlone) {
   bench.ByteTime = 1e-5;
   for (const double first_is_late : {0.0, 0.052}) {

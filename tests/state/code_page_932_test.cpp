@@ -30,6 +30,7 @@ TEST(Code_Page_932, DecodesWholeTexts) {
       {"\x81\xADz", "\uFFFDz"},  // Unassigned.
   };
   for (const auto& [bytes, utf8] : cases) EXPECT_EQ(Utf8_From_Cp932(bytes), utf8);
+  EXPECT_EQ(Utf8_From_Cp932(std::string_view("\x93\xFA", 1)), "\uFFFD") << "reads no byte behind the text";
 }
 
 }  // namespace

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <memory>
-#include <string>
 
 #include "board/cell_store.h"
 #include "board/programmer_board.h"

@@ -1,14 +1,6 @@
 // The port settings window: what it tries, what it stores, and that it lets go of the port.
 #include "shell/controls/frm_com.h"
 
-#include <gtest/gtest.h>
-
-#include <string>
-#include <vector>
-
-#include "core/transfer_commands.h"
-#include "link/com_ports.h"
-#include "link/mscomm.h"
 #include "tests/support/chip_bench.h"
 
 namespace wrenbit {

@@ -1,16 +1,9 @@
 // Every button and menu entry of the main window does what its caption says.
 #include "shell/controls/frm_main.h"
 
-#include <gtest/gtest.h>
-
-#include <functional>
-#include <memory>
 #include <utility>
-#include <vector>
 
 #include "core/state/app.h"
-#include "core/state/platform.h"
-#include "core/state/state.h"
 #include "shell/controls/frm_about.h"
 #include "shell/controls/frm_com.h"
 #include "tests/support/chip_bench.h"
