@@ -35,6 +35,7 @@ TEST_F(Hex_Grid, HasARowForEverySixteenBytesAndNoneForADeviceWithoutAUsableSize)
     EXPECT_EQ(frmMain.LblCheckSUM.Caption(), checksum);
     EXPECT_EQ(grid.Cell(0, 17), "ASCII");
   }
+  EXPECT_EQ(grid.Cols(), 18);
   EXPECT_EQ(grid.Cell(0, 16), "0x0F");
   EXPECT_EQ(grid.ColWidth(0) + 16 * grid.ColWidth(1) + grid.ColWidth(17), 700 + 16 * 450 + 2000);
   EXPECT_EQ(grid.ColAlignment(16), Alignment::Centre);
