@@ -27,6 +27,7 @@ TEST(Catalogue_Text, EachRecordIsOneOfFourKinds) {
       {"; Ver 3\nver 1\n", {"ver"}, "; Ver 3"},
       {"A x 2, B y 3\n", {"A", "B"}, ""},
       {"\"A,1 x 2 8\"\nB\n", {"A,1", "B"}, ""},
+      {"  \" A, 2\"  ,B\"C\n\"D x\nx\" E,\"F", {"A,", "B\"C", "D", "E", "F"}, ""},
       {"A x 2 8 8 1 -\nB x 3 7 - - 7\n", {"A", "B"}, ""},
       {"\x8C\xEA\n\x1Az\n", {"語"}, ""},  // Behind an end-of-file mark stands nothing.
       {"\xEF\xBB\xBF語 x\n\xE8\xFF\n", {"語", "\xE8\xFF"}, ""},
@@ -55,16 +56,16 @@ TEST(Catalogue_Text, ALineSplitsAtBlanksAndAtItsFirstEquals) {
 
 TEST(Catalogue_Text, BadRowsAreToldWithLineAndColumnAndReadAsZero) {
   const Catalogue catalogue = Read_Catalogue(
-      "; head\nA x 2 big 8\nB\nC x 2 8 8 1.5 99999999999\n"
+      "\"; head\r\n\r\"\nA x 2 big 8\nB\nC x 2 8 8 1.5 99999999999\n"
       "D x 2 8 12\nE x 2 8 -2147483648\nF x 2 8 512\nG x 3 8 12 - -\n");
   const std::string no_number = " は数値ではありません。0とします。";
   const std::string no_page = " は2の累乗ではありません。Block Writeはできません。";
-  EXPECT_EQ(catalogue.Problems, (Texts{"2行目: A の列3 (メモリサイズ) の \"big\"" + no_number,
-                                       "4行目: C の列5 (アドレスモード) の \"1.5\"" + no_number,
-                                       "4行目: C の列6 (アドレスビット数) の \"99999999999\"" + no_number,
-                                       "5行目: D の列4 (ページサイズ) の \"12\"" + no_page,
-                                       "6行目: E の列4 (ページサイズ) の \"-2147483648\"" + no_page,
-                                       "8行目: G の列6 (アドレスビット数) の \"-\"" + no_number}));
+  EXPECT_EQ(catalogue.Problems, (Texts{"4行目: A の列3 (メモリサイズ) の \"big\"" + no_number,
+                                       "6行目: C の列5 (アドレスモード) の \"1.5\"" + no_number,
+                                       "6行目: C の列6 (アドレスビット数) の \"99999999999\"" + no_number,
+                                       "7行目: D の列4 (ページサイズ) の \"12\"" + no_page,
+                                       "8行目: E の列4 (ページサイズ) の \"-2147483648\"" + no_page,
+                                       "10行目: G の列6 (アドレスビット数) の \"-\"" + no_number}));
   EXPECT_EQ(Number_Cell(catalogue.Rows[0], Column_Mem_Size), 0);
   EXPECT_EQ(Number_Cell(catalogue.Rows[0], Column_Page_Size), 8);
 }

@@ -1,4 +1,5 @@
-// The operations of the link: what goes out, what is taken for the reply, and what the wait costs.
+// The operations of the link: what is taken for the reply, and when a command waits. What goes out is in
+// engines/wire_test.cpp.
 #include "link/link.h"
 
 #include <utility>
@@ -23,45 +24,6 @@ class Link_Test : public testing::Test {
     });
   }
 };
-
-TEST_F(Link_Test, EveryOperationIsOneWriteOfItsOwnBytesAndWaitsOnlyForAReplyAndAtMostASecond) {
-  const struct {
-    std::function<void()> Run;
-    Bytes Sends;
-    bool HasReply;
-  } operations[] = {
-      {Link_SendBit1, {'1'}, false},
-      {Link_SendBit0, {'2'}, false},
-      {Link_ReadBit, {'3'}, true},
-      {[] { Link_SendByte24(0x0D); }, {'9', 0x0D}, true},
-      {Link_ReadByte24, {'7'}, true},
-      {Link_ReadByte93, {'8'}, true},
-      {[] { Link_SendBits93(3, 0, 6); }, {'0', 3, 0, 6}, true},
-      {[] { Link_WritePortA(6); }, {'m', 'w', 'a', 6}, false},
-      {[] { Link_WritePortB(0); }, {'m', 'w', 'b', 0}, false},
-      {[] { Link_WritePortC(0x80); }, {'m', 'w', 'c', 0x80}, false},
-      {[] { Link_SetDirA(0xF8); }, {'m', 't', 'a', 0xF8}, false},
-      {[] { Link_SetDirB(0x0A); }, {'m', 't', 'b', 0x0A}, false},
-      {[] { Link_SetDirC(0xFF); }, {'m', 't', 'c', 0xFF}, false},
-      {Link_ReadPortA, {'m', 'r', 'a'}, true},
-      {Link_ReadPortB, {'m', 'r', 'b'}, true},
-      {Link_ReadPortC, {'m', 'r', 'c'}, true},
-  };
-  for (const auto& op : operations) {
-    SCOPED_TRACE(testing::PrintToString(op.Sends));
-    bench.Forget_Traffic();
-    board.Replies.clear();
-    if (op.HasReply) board.Replies = {{op.Sends.size(), {1}}};
-    LinkError = 1;  // Stops no operation.
-    op.Run();
-    EXPECT_EQ(bench.Commands, std::vector<Bytes>{op.Sends});
-    EXPECT_EQ(bench.Waits, op.HasReply ? 1U : 0U);
-
-    LinkError = 0;
-    EXPECT_NEAR(bench.Seconds_Of(op.Run), op.HasReply ? 1 : 0, 0.01);
-    EXPECT_EQ(LinkError, op.HasReply ? 1 : 0);
-  }
-}
 
 TEST_F(Link_Test, RepliesAreJudgedByTheirFirstByteAndAPortReadAllowsJustOne) {
   const struct {

@@ -6,15 +6,12 @@
 #include <map>
 #include <string>
 
-#include "core/state/number_text.h"
 #include "shell/qt/seams/instance_lock.h"
 #include "tests/support/plain_user_posix.h"
 #include "tests/support/temporary_folder.h"
 
 namespace wrenbit {
 namespace {
-
-using namespace std::string_literals;
 
 class Settings : public testing::Test {
  protected:
@@ -52,23 +49,6 @@ TEST_F(Settings, AnUnchangedValueIsNotWrittenAgain) {
   std::filesystem::last_write_time(path, written);
   Store(path).Save("Settings", "DUT", "12");
   EXPECT_EQ(std::filesystem::last_write_time(path), written);
-}
-
-TEST_F(Settings, ADamagedFileGivesTheDefaultAndTakesANewValue) {
-  for (const std::string& content :
-       {""s, std::string(100000, '\0'), "\xFF\xFE\x00[S\x00"s, "[Settings\nDUT"s,
-        "DUT=3\n[Settings]\n=\n;\n[]\n%zz=1\n\\\n"s, "[Settings]\nDUT=\"unclosed\nComNo=1\n"s,
-        "[Settings]\nDUT=@Variant(\\0\\0\\0\\x7f\\0\\0\\0\x5rubbish)\n"s,
-        "[Settings]\nDUT=@Rect(1 2 3)\n"s}) {
-    SCOPED_TRACE(testing::PrintToString(content.substr(0, 40)));
-    const Temporary_Folder other;
-    Put_Content(other / "settings.ini", content);
-    Qt_Settings settings = Store(other / "settings.ini");
-    EXPECT_EQ(Whole_Number(settings.Get("Settings", "DUT", "7")).value_or(7), 7);
-    settings.Save("Settings", "DUT", "12");
-    EXPECT_EQ(settings.Get("Settings", "DUT", "7"), "12");
-    EXPECT_NE(Content(other / "settings.ini").find("DUT=12"), std::string::npos);
-  }
 }
 
 TEST_F(Settings, WhatPeopleOrAnotherProcessWroteMeanwhileStays) {

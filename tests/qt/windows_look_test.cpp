@@ -3,13 +3,11 @@
 
 #include <QAccessible>
 #include <QApplication>
-#include <QBitmap>
 #include <QBrush>
 #include <QFontDatabase>
 #include <QImage>
 #include <QPainter>
 #include <QStyle>
-#include <algorithm>
 #include <functional>
 #include <initializer_list>
 #include <set>
@@ -23,7 +21,6 @@
 #include "shell/qt/drawing/colours.h"
 #include "shell/qt/drawing/fitted_text.h"
 #include "shell/qt/drawing/look.h"
-#include "shell/qt/drawing/pictures.h"
 #include "shell/qt/views/form_view.h"
 
 namespace wrenbit {
@@ -168,21 +165,6 @@ TEST(Windows, GreyedTextsCanBeReadInLightAndInDarkPalettes) {
       EXPECT_GE(Contrast(grey(text), grey(background)), 4.5) << text;
     EXPECT_GE(Contrast(grey(QPalette::WindowText), QColor(letters)), 2) << "plainly other than live ones";
   }
-}
-
-TEST(Windows, APictureFillsTheSquareOfItsButtonAndNoMore) {
-  for (int which = static_cast<int>(Picture::Open); which <= static_cast<int>(Picture::Program); ++which)
-    for (const int size : {16, 32, 64}) {
-      QImage sheet(2 * size, 2 * size, QImage::Format_ARGB32);
-      sheet.fill(Qt::transparent);
-      const QRect square(size / 2, size / 2, size, size);
-      QPainter painter(&sheet);
-      Paint_Picture(painter, square, static_cast<Picture>(which));
-      painter.end();
-      const QRect painted = QRegion(QBitmap::fromImage(sheet.createAlphaMask())).boundingRect();
-      EXPECT_TRUE(square.contains(painted)) << which << " at " << size;
-      EXPECT_GE(std::min(painted.width(), painted.height()), size * 3 / 4) << which << " at " << size;
-    }
 }
 
 }  // namespace
