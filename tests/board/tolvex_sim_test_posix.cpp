@@ -136,15 +136,6 @@ TEST_F(Tolvex_Sim, Leaves_A_Link_Alone_That_No_Board_Made) {
   EXPECT_EQ(Content(link), "a file");
 }
 
-TEST_F(Tolvex_Sim, Outlives_A_Port_That_Sends_And_Never_Reads) {
-  Simulator simulator(config.Path());
-  simulator.Says();
-  const board::Descriptor port(open(link.c_str(), O_RDWR | O_NOCTTY));
-  const std::string queries(20000, '?');  // 17 bytes back for each, far more than a terminal holds.
-  EXPECT_EQ(write(*port, queries.data(), queries.size()), static_cast<ssize_t>(queries.size()));
-  EXPECT_EQ(simulator.End(SIGTERM), 0);
-}
-
 TEST_F(Tolvex_Sim, Swaps_The_Chip_At_A_Typed_Line_And_Keeps_It_When_The_Line_Is_Wrong) {
   const std::string image = config / "a chip.bin";
   const std::string small = config / "short.bin";

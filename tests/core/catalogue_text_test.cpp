@@ -3,7 +3,6 @@
 #include "core/catalogue_text.h"
 
 #include <set>
-#include <utility>
 
 #include "board/make_chip.h"
 #include "core/catalogue.h"
@@ -19,7 +18,7 @@ TEST(Catalogue_Text, EachRecordIsOneOfFourKinds) {
     Texts Rows;
     std::string Version;
   } cases[] = {
-      {"A x\r\nB x", {"A", "B"}, ""},
+      {"A=2\r\nB x", {"A", "B"}, ""},
       {"; note\n\n   \n\tA\tx\n", {"A"}, ""},
       {"A x 2 8 ; mine\nB\n", {"B"}, ""},  // A comment behind data drops the data.
       {" Ver 1.00 \nA\n Ver 2.00 \n", {"A"}, "Ver 2.00"},
@@ -40,17 +39,6 @@ TEST(Catalogue_Text, EachRecordIsOneOfFourKinds) {
     EXPECT_EQ(names, c.Rows);
     EXPECT_EQ(catalogue.Version, c.Version);
     EXPECT_TRUE(catalogue.Problems.empty());
-  }
-}
-
-TEST(Catalogue_Text, ALineSplitsAtBlanksAndAtItsFirstEquals) {
-  const std::pair<const char*, Texts> cases[] = {{"  a   b c  ", {"a", "b", "c", ""}},
-                                                 {"24C02=I2C 2", {"24C02", "=", "I2C", "2"}},
-                                                 {"a = b=c", {"a", "=", "b=c", ""}},
-                                                 {"", {"", "", "", ""}}};
-  for (const auto& [line, cells] : cases) {
-    const auto split = Split_Line(line);
-    EXPECT_EQ(Texts(split.begin(), split.begin() + 4), cells) << line;
   }
 }
 

@@ -6,7 +6,6 @@
 #include <cstdint>
 #include <cstdlib>
 #include <map>
-#include <numeric>
 #include <random>
 #include <string>
 #include <tuple>
@@ -16,15 +15,6 @@
 
 namespace wrenbit {
 namespace {
-
-TEST(Intel_Hex_Writer, WritesFullRecordsAndTheEndRecord) {
-  ImageBuffer.assign(32, 0xFE);
-  std::iota(ImageBuffer.begin(), ImageBuffer.begin() + 16, std::uint8_t{0});
-  EXPECT_EQ(Intel_Hex_Text(),
-            ":10000000000102030405060708090A0B0C0D0E0F78\r\n"
-            ":10001000FEFEFEFEFEFEFEFEFEFEFEFEFEFEFEFE00\r\n"
-            ":00000001FF\r\n");
-}
 
 TEST(Intel_Hex_Writer, ExtendsAddressesOnlyBeyond64KiB) {
   constexpr std::size_t kBank = 65536, kBankText = kBank / 16 * 45;  // Each record with its line end.

@@ -44,17 +44,6 @@ TEST_F(Handshake_Test, AGoodReplyTellsVersionAndPortWhichIsReadFromTheSettingsEa
   EXPECT_EQ(bench.Kept, (std::vector<int>{1, 20}));
 }
 
-TEST_F(Handshake_Test, APortThatGoesDuringThePauseIsNoticedBeforeItIsOver) {
-  struct : Scripted_Board {
-    std::function<bool()> Left;
-    bool Gone() const override { return Left(); }
-  } leaving;
-  leaving.Left = [&, from = bench.Now()] { return bench.Now() > from + 0.012; };
-  bench.Board = &leaving;
-  EXPECT_LT(bench.Seconds_Of(Read_Version), 0.030);
-  EXPECT_EQ(Panel(1), "プログラマ接続確認エラー。【1】ポートが切断されました。");
-}
-
 TEST_F(Handshake_Test, NoPartOfAnAnswerThatIsLongOrComesInPiecesIsTakenForTheNextReply) {
   const double wire = bench.ByteTime;
   // Seconds from byte to byte, the answer's length, and whether the first query is heard too.

@@ -71,16 +71,5 @@ TEST_F(Port_Window, EachEntryTellsItsDevice) {
   EXPECT_TRUE(bench.Kept.empty()) << "another than the tip named";
 }
 
-TEST_F(Port_Window, ASecondClickWhileItLoadsLeavesAWindowThatCloses) {
-  bench.Stored["DTR"] = "1";  // Its check box yields while the window loads.
-  bench.On_Yield = [&] {
-    bench.On_Yield = nullptr;
-    frmCom.Show_Modal();
-    frmCom.Cmd_Close.Click();
-  };
-  frmCom.Show_Modal();
-  EXPECT_FALSE(frmCom.Visible());
-}
-
 }  // namespace
 }  // namespace wrenbit
