@@ -10,6 +10,7 @@
 #include "core/state/app.h"
 #include "core/state/platform.h"
 #include "core/state/state.h"
+#include "core/state/utf8_path.h"
 #include "core/state/whole_file.h"
 #include "editor/cell_selection.h"
 #include "shell/controls/windows.h"
@@ -23,10 +24,10 @@ constexpr std::size_t kProblemsTold = 15;  // More would not fit a small screen.
 
 // Makes the program's folder the current one. Gives it with a closing separator.
 std::string Get_AppFolder() {
-  const std::filesystem::path folder(App.Path);
+  const std::filesystem::path folder = Path_Of(App.Path);
   std::error_code ignored;
   std::filesystem::current_path(folder, ignored);
-  return (folder / "").string();
+  return Utf8_Of(folder / "");
 }
 
 void Set_AboutCaptions() {

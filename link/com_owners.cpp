@@ -7,6 +7,7 @@
 #include <string_view>
 #include <system_error>
 
+#include "core/state/utf8_path.h"
 #include "core/state/whole_file.h"
 
 namespace wrenbit {
@@ -33,7 +34,7 @@ std::string Line(int number, const Com_Owner& owner) {
 
 Com_Owners Read_Com_Owners(const std::filesystem::path& file) {
   Com_Owners owners;
-  std::istringstream lines(Read_Whole_File(file.string()).value_or(""));
+  std::istringstream lines(Read_Whole_File(Utf8_Of(file)).value_or(""));
   for (std::string line; std::getline(lines, line);) {
     std::istringstream fields(line);
     std::string com, known_by;
@@ -54,9 +55,9 @@ void Write_Com_Owners(const std::filesystem::path& file, const Com_Owners& owner
   std::string text = kFirstLine;
   for (const auto& [number, owner] : owners) text += Line(number, owner);
   std::error_code ignored;
-  const std::optional<std::string> before = Read_Whole_File(file.string());
+  const std::optional<std::string> before = Read_Whole_File(Utf8_Of(file));
   if (before ? *before != text : !std::filesystem::exists(file, ignored))
-    Write_Whole_File(file.string(), text);
+    Write_Whole_File(Utf8_Of(file), text);
 }
 
 }  // namespace wrenbit

@@ -15,10 +15,10 @@ bool File_Exists(const std::string& path);
 std::optional<std::string> Read_Whole_File(const std::string& path);
 
 // Makes the file or replaces its contents, in one step: a failure or a crash leaves it as it was. Nothing is
-// left beside it, but by a crash a hidden ".wrenbit-…". A replaced file keeps its mode; it belongs to the
-// user from then on. A symbolic link stays, and what it leads to is written. Refused are a file that the user
-// may not write and whatever is no regular file. Gives the reason of a failure, a sentence in Japanese for
-// the user; nothing when all is well.
+// left beside it, but by a crash a ".wrenbit-…". A replaced file keeps its mode, or attributes; it belongs to
+// the user from then on. A symbolic link stays, and what it leads to is written. Refused are a file that the
+// user may not write and whatever is no regular file. Gives the reason of a failure, a sentence in Japanese
+// for the user; nothing when all is well.
 std::optional<std::string> Write_Whole_File(const std::string& path, std::string_view text);
 
 }  // namespace wrenbit

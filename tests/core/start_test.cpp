@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "core/state/app.h"
+#include "core/state/utf8_path.h"
 #include "shell/controls/windows.h"
 #include "tests/support/temporary_folder.h"
 #include "tests/support/test_bench.h"
@@ -17,11 +18,15 @@ class Start : public testing::Test {
  protected:
   Test_Bench bench;
   const Temporary_Folder folder;
+  const std::filesystem::path place = std::filesystem::path(folder.Path()) / u8"表示ソフト";
   const std::filesystem::path before = std::filesystem::current_path();
 
-  void SetUp() override { App.Path = folder.Path(); }
+  void SetUp() override {
+    std::filesystem::create_directory(place);
+    App.Path = Utf8_Of(place);
+  }
   void TearDown() override { std::filesystem::current_path(before); }
-  void Catalogue_File(const std::string& text) const { Put_Content(folder / "wrenbit.ini", text); }
+  void Catalogue_File(const std::string& text) const { Put_Content(place / "wrenbit.ini", text); }
 };
 
 constexpr const char* kRows = "Ver 1.00\n24C02 I2C 2 8 8 1 0 2Kbit\nLONGNAMED I2C 2 4 1 1 0 128bit\n";
@@ -81,7 +86,7 @@ TEST_F(Start, ASecondInstanceEndsWithoutAWordAndWithoutACatalogueItSaysSo) {
   EXPECT_FALSE(Main());
   Catalogue_File("; nothing but a comment\nVer 1\n");
   EXPECT_FALSE(Main());
-  const std::string here = kBox + folder.Path() + "/";
+  const std::string here = kBox + Utf8_Of(place / "");
   const std::string stop = "         \r\nＷＲＥＮＢＩＴプログラマーの起動を中止しました。";
   EXPECT_EQ(bench.Boxes, (Texts{here + "内に wrenbit.iniファイルがありませんので" + stop,
                                 here + "内の wrenbit.iniファイルにデバイスの行がありませんので" + stop}));

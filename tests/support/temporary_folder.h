@@ -1,6 +1,7 @@
 // A folder of a test's own, open to every user, gone with all that it holds when the test is over.
 #pragma once
 
+#include <cstddef>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -25,7 +26,7 @@ class Temporary_Folder {
 
   const std::string& Path() const { return path; }
   std::string operator/(const std::string& name) const { return path + "/" + name; }
-  long Entries() const {
+  std::ptrdiff_t Entries() const {
     return std::distance(std::filesystem::directory_iterator(path), std::filesystem::directory_iterator());
   }
 

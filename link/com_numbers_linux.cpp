@@ -2,11 +2,13 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <map>
 #include <string>
 #include <system_error>
 #include <utility>
 #include <vector>
 
+#include "link/com_owners.h"
 #include "link/lock_file.h"
 
 namespace wrenbit {
@@ -28,26 +30,23 @@ std::string Target(const fs::path& link) {
   return fs::canonical(link, error).string();
 }
 
-}  // namespace
+fs::path Symlink(const fs::path& ports, int number) { return ports / ("COM" + std::to_string(number)); }
 
-Com_Numbers::Com_Numbers(const fs::path& config_folder, fs::path system_folder)
-    : ports(config_folder / "ports"), file(config_folder / "com-numbers"), system(std::move(system_folder)) {}
-
-fs::path Com_Numbers::Symlink(int number) const { return ports / ("COM" + std::to_string(number)); }
-
-bool Com_Numbers::Has_Link(int number) const {
+bool Has_Link(const fs::path& ports, int number) {
   std::error_code ignored;
-  return fs::is_symlink(Symlink(number), ignored) && !Lock_Was_Left_Behind(Symlink(number) += ".lock");
+  return fs::is_symlink(Symlink(ports, number), ignored) &&
+         !Lock_Was_Left_Behind(Symlink(ports, number) += ".lock");
 }
 
-std::map<int, Serial_Device> Com_Numbers::Take_Owners(const Com_Owners& owners,
-                                                      std::vector<Serial_Device>& devices) const {
+// The owners that are present and whose number has no link, by their numbers: taken out of the devices.
+std::map<int, Serial_Device> Take_Owners(const Com_Owners& owners, const fs::path& ports,
+                                         std::vector<Serial_Device>& devices) {
   std::map<int, Serial_Device> at_home;
   const auto seat = [&](auto is_owner) {
     for (const auto& [owned, owner] : owners) {
       const auto found = std::ranges::find_if(
           devices, [&, &who = owner](const Serial_Device& d) { return is_owner(who, d); });
-      if (at_home.contains(owned) || Has_Link(owned) || found == devices.end()) continue;
+      if (at_home.contains(owned) || Has_Link(ports, owned) || found == devices.end()) continue;
       at_home.emplace(owned, *found);
       devices.erase(found);
     }
@@ -63,25 +62,31 @@ std::map<int, Serial_Device> Com_Numbers::Take_Owners(const Com_Owners& owners,
   return at_home;
 }
 
+}  // namespace
+
+Com_Numbers::Com_Numbers(const fs::path& config_folder, fs::path system_folder)
+    : ports(config_folder / "ports"), file(config_folder / "com-numbers"), system(std::move(system_folder)) {}
+
 std::optional<Serial_Device> Com_Numbers::Device(int number) const {
   if (number < 1 || number > kComPorts) return std::nullopt;
   std::vector<Serial_Device> devices = In_Com_Order(Serial_Devices_Present(system));
-  if (Has_Link(number)) {
-    const std::string path = Target(Symlink(number));
+  if (Has_Link(ports, number)) {
+    const std::string path = Target(Symlink(ports, number));
     if (path.empty()) return std::nullopt;
     const auto known = std::ranges::find(devices, path, &Serial_Device::Path);
     return known == devices.end() ? Serial_Device{.Path = path} : *known;
   }
 
   const Com_Owners owners = Read_Com_Owners(file);
-  const std::map<int, Serial_Device> at_home = Take_Owners(owners, devices);
+  const std::map<int, Serial_Device> at_home = Take_Owners(owners, ports, devices);
   if (at_home.contains(number)) return at_home.at(number);
   if (owners.contains(number)) return owners.at(number).Device;
 
   std::size_t free_before = 0;
   for (int other = 1; other <= kComPorts; ++other) {
-    const bool linked = Has_Link(other);
-    if (linked) std::erase_if(devices, [&](const auto& d) { return d.Path == Target(Symlink(other)); });
+    const bool linked = Has_Link(ports, other);
+    if (linked)
+      std::erase_if(devices, [&](const auto& d) { return d.Path == Target(Symlink(ports, other)); });
     if (other < number && !linked && !owners.contains(other)) ++free_before;
   }
   if (free_before >= devices.size()) return std::nullopt;
@@ -89,7 +94,7 @@ std::optional<Serial_Device> Com_Numbers::Device(int number) const {
 }
 
 void Com_Numbers::Give(int number, const Serial_Device& device) const {
-  if (device.Path.empty() || device.Place.empty() || Has_Link(number)) return;
+  if (device.Path.empty() || device.Place.empty() || Has_Link(ports, number)) return;
   Com_Owners owners = Read_Com_Owners(file);
   // Many cheap adapters share one serial number. That two of them were seen together once stays known.
   const std::vector<Serial_Device> present = Serial_Devices_Present(system);
