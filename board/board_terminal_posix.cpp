@@ -15,19 +15,18 @@
 #include <chrono>
 #include <cstddef>
 #include <cstdint>
-#include <deque>
-#include <optional>
+#include <iterator>
+#include <span>
 
 #include "board/descriptor.h"
+#include "board/waiting_replies.h"
 
 namespace board {
 
 namespace {
 
-using Clock = Wire_Schedule::Clock;
+using Clock = Waiting_Replies::Clock;
 using Nanoseconds = std::chrono::nanoseconds;
-
-constexpr std::size_t kMostWaiting = 4096;  // Replies in bytes, beyond those in the terminal itself.
 
 constexpr int kStopSignals[] = {SIGINT, SIGTERM, SIGHUP};
 volatile sig_atomic_t StopCaught = 0;
@@ -57,45 +56,42 @@ void Hold_Stop_Signals() {
   signal(SIGPIPE, SIG_IGN);  // Whoever reads our output may go; the link must still be removed.
 }
 
-struct Waiting {
-  std::uint8_t Byte;
-  Clock::time_point Due;
-};
-
-// Takes what the PC sent, lets the board answer, and lines the answers up.
-void Take_In(int master, Wire_End& end, Wire_Schedule& wire, std::deque<Waiting>& replies) {
+// Takes what the PC sent, and lets the board answer.
+void Take_In(int master, Waiting_Replies& replies) {
   std::array<std::uint8_t, 512> bytes;
   const ssize_t got = read(master, bytes.data(), bytes.size());
   if (got < 0 && errno == EAGAIN) return;
   if (got < 0) Throw_Errno("reading from the terminal");
-  const auto now = Clock::now();
-  for (std::size_t i = 0; i < static_cast<std::size_t>(got); ++i) {
-    const Answer answer = end.Receive(bytes[i]);
-    const auto late = std::chrono::duration_cast<Nanoseconds>(std::chrono::duration<double>(answer.Late));
-    const auto said = wire.Arrival(now) + late;
-    for (const std::uint8_t byte : answer.Bytes) {
-      if (replies.size() < kMostWaiting) replies.push_back({byte, wire.Departure(said)});
-    }
-  }
+  replies.Take_In(std::span(bytes.data(), static_cast<std::size_t>(got)), Clock::now());
 }
 
 // Hands the PC all replies that are due, as far as the terminal takes them.
-void Put_Out(int master, std::deque<Waiting>& replies) {
-  std::array<std::uint8_t, 512> bytes;
-  std::size_t count = 0;
-  const auto now = Clock::now();
-  while (count < std::min(replies.size(), bytes.size()) && replies[count].Due <= now) {
-    bytes[count] = replies[count].Byte;
-    ++count;
-  }
-  const ssize_t put = write(master, bytes.data(), count);
+void Put_Out(int master, Waiting_Replies& replies) {
+  const auto due = replies.Due(Clock::now());
+  const ssize_t put = write(master, due.data(), due.size());
   if (put < 0 && errno != EAGAIN) Throw_Errno("writing to the terminal");
-  if (put > 0) replies.erase(replies.begin(), replies.begin() + put);
+  if (put > 0) replies.Drop(static_cast<std::size_t>(put));
 }
 
 }  // namespace
 
-Board_Terminal::Board_Terminal() : master(posix_openpt(O_RDWR | O_NOCTTY | O_CLOEXEC | O_NONBLOCK)) {
+struct Board_Terminal::Port {
+  // A claim to the port for one program alone (TIOCEXCL) ends when the last holder closes the port. Here that
+  // is never, since the slave is held open, and a PC program that was killed would shut out all that follow.
+  void Unclaim() const {
+    std::array<char, 4096> events;
+    while (read(*Closings, events.data(), events.size()) > 0) continue;
+    ioctl(*Slave, TIOCNXCL);
+  }
+
+  Descriptor Master;
+  Descriptor Slave;     // Held open, or the master would see a hang-up each time the PC closes the port.
+  Descriptor Closings;  // Readable when the PC has closed the port; none where the system gives no watch.
+};
+
+Board_Terminal::Board_Terminal() : port(std::make_unique<Port>()) {
+  auto& [master, slave, closings] = *port;
+  master = Descriptor(posix_openpt(O_RDWR | O_NOCTTY | O_CLOEXEC | O_NONBLOCK));
   if (!master || grantpt(*master) != 0 || unlockpt(*master) != 0) Throw_Errno("opening a pseudo terminal");
   std::array<char, 128> path;
   if (ptsname_r(*master, path.data(), path.size()) != 0) Throw_Errno("naming the pseudo terminal");
@@ -111,42 +107,31 @@ Board_Terminal::Board_Terminal() : master(posix_openpt(O_RDWR | O_NOCTTY | O_CLO
   Hold_Stop_Signals();
 }
 
+Board_Terminal::~Board_Terminal() = default;
+
 void Board_Terminal::Serve(Wire_End& end, const Port_Timing& timing, Typed_Lines& typed,
                            const std::function<void(const std::string& line)>& told) {
-  Wire_Schedule wire(timing);
-  std::deque<Waiting> replies;
+  Waiting_Replies replies(end, timing);
   while (!Stop_Asked()) {
-    pollfd files[] = {{.fd = *master, .events = POLLIN, .revents = 0},
-                      {.fd = *closings, .events = POLLIN, .revents = 0},
-                      {.fd = typed.Number(), .events = POLLIN, .revents = 0}};
+    pollfd files[] = {{.fd = *port->Master, .events = POLLIN, .revents = 0},
+                      {.fd = *port->Closings, .events = POLLIN, .revents = 0},
+                      {.fd = static_cast<int>(typed.Waitable()), .events = POLLIN, .revents = 0}};
     auto& [pc, closed, keyboard] = files;
     const auto now = Clock::now();
-    std::optional<Nanoseconds> rest;
-    if (!replies.empty() && replies.front().Due <= now) {
-      pc.events |= POLLOUT;
-    } else if (wire.Awake(now)) {
-      rest = Nanoseconds(0);
-    } else if (!replies.empty()) {
-      rest = replies.front().Due - now;
-    }
+    if (!replies.Due(now).empty()) pc.events |= POLLOUT;
+    const auto rest = replies.Rest(now);
     const timespec limit{.tv_sec = rest.value_or(Nanoseconds(0)).count() / 1'000'000'000,
                          .tv_nsec = rest.value_or(Nanoseconds(0)).count() % 1'000'000'000};
     if (ppoll(files, std::size(files), rest ? &limit : nullptr, &MaskWhileWaiting) < 0) {
       if (errno == EINTR) continue;
       Throw_Errno("waiting for the terminal");
     }
-    if (closed.revents & POLLIN) Unclaim();
-    if (pc.revents & POLLOUT) Put_Out(*master, replies);
-    if (pc.revents & POLLIN) Take_In(*master, end, wire, replies);
+    if (closed.revents & POLLIN) port->Unclaim();
+    if (pc.revents & POLLOUT) Put_Out(*port->Master, replies);
+    if (pc.revents & POLLIN) Take_In(*port->Master, replies);
     if (!keyboard.revents) continue;
     for (const std::string& line : typed.Take()) told(line);
   }
-}
-
-void Board_Terminal::Unclaim() {
-  std::array<char, 4096> events;
-  while (read(*closings, events.data(), events.size()) > 0) continue;
-  ioctl(*slave, TIOCNXCL);
 }
 
 }  // namespace board

@@ -8,9 +8,12 @@
 #include <cerrno>
 #include <chrono>
 #include <cstdlib>
+#include <filesystem>
 #include <stdexcept>
 #include <system_error>
 #include <thread>
+
+#include "board/descriptor.h"
 
 namespace board {
 
@@ -64,7 +67,20 @@ bool Lock_Alone(int file, const fs::path& path) {
   return true;
 }
 
-}  // namespace
+// A lock beside the link, held as long as the board lives. The system drops it when the board is killed,
+// which tells a link that was left behind from one in use.
+class Com_Port_Lock {
+ public:
+  // Throws std::runtime_error when another board holds `link` for half a second, or somebody else made it.
+  explicit Com_Port_Lock(const fs::path& link);
+  ~Com_Port_Lock();
+  Com_Port_Lock(const Com_Port_Lock&) = delete;
+  Com_Port_Lock& operator=(const Com_Port_Lock&) = delete;
+
+ private:
+  fs::path path;
+  Descriptor file;
+};
 
 Com_Port_Lock::Com_Port_Lock(const fs::path& link) : path(With_Suffix(link, ".lock")) {
   Refuse_Foreign(link, path);
@@ -81,17 +97,25 @@ Com_Port_Lock::Com_Port_Lock(const fs::path& link) : path(With_Suffix(link, ".lo
 
 Com_Port_Lock::~Com_Port_Lock() { unlink(path.c_str()); }
 
-Com_Port_Link::Com_Port_Link(int number, const std::string& target)
-    : path(Ports_Folder() / ("COM" + std::to_string(number))), device(target), lock(path) {
-  const fs::path made = With_Suffix(path, ".new");
+}  // namespace
+
+struct Com_Port_Link::Claim {
+  fs::path Path;
+  std::string Device;
+  Com_Port_Lock Lock{Path};
+};
+
+Com_Port_Link::Com_Port_Link(int number, const std::string& device)
+    : claim(new Claim{.Path = Ports_Folder() / ("COM" + std::to_string(number)), .Device = device}) {
+  const fs::path made = With_Suffix(claim->Path, ".new");
   fs::remove(made);
   fs::create_symlink(device, made);
-  fs::rename(made, path);
+  fs::rename(made, claim->Path);
 }
 
 Com_Port_Link::~Com_Port_Link() {
   std::error_code ignored;
-  if (fs::read_symlink(path, ignored) == device) fs::remove(path, ignored);
+  if (fs::read_symlink(claim->Path, ignored) == claim->Device) fs::remove(claim->Path, ignored);
 }
 
 }  // namespace board

@@ -1,4 +1,4 @@
-// An open file of the system, closed when its owner goes.
+// An open file of POSIX, closed when its owner goes.
 #pragma once
 
 #include <string>

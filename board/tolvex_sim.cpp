@@ -12,6 +12,7 @@
 #include <utility>
 #include <vector>
 
+#include "board/arguments.h"
 #include "board/board_terminal.h"
 #include "board/cell_store.h"
 #include "board/com_port_link.h"
@@ -158,11 +159,14 @@ void Run(const Options& options) {
 int main(int argc, char** argv) {
   Options options;
   CLI::App app(
-      "A TOLVEX programmer board with a serial EEPROM in its socket, on a pseudo terminal. Ends with SIGINT.",
+      "A TOLVEX programmer board with a serial EEPROM in its socket, on a serial port that is none: a pseudo "
+      "terminal, or on Windows a named pipe. Ends with Ctrl-C.",
       "tolvex-sim");
   try {
     Describe(app, options);
-    app.parse(argc, argv);
+    auto arguments = board::Arguments(argc, argv);
+    std::ranges::reverse(arguments);  // As CLI11 wants them.
+    app.parse(std::move(arguments));
     Run(options);
   } catch (const CLI::ParseError& error) {
     return app.exit(error) == 0 ? 0 : 2;

@@ -7,37 +7,26 @@
 #include <array>
 #include <cerrno>
 #include <cstddef>
-#include <utility>
 
 namespace board {
 
-namespace {
+struct Typed_Lines::Input {
+  int File = fcntl(STDIN_FILENO, F_GETFD) < 0 ? -1 : STDIN_FILENO;
+};
 
-constexpr std::size_t kLongest = 4096;
+Typed_Lines::Typed_Lines() : input(std::make_unique<Input>()) { signal(SIGTTIN, SIG_IGN); }
 
-}  // namespace
+Typed_Lines::~Typed_Lines() = default;
 
-Typed_Lines::Typed_Lines() : file(fcntl(STDIN_FILENO, F_GETFD) < 0 ? -1 : STDIN_FILENO) {
-  signal(SIGTTIN, SIG_IGN);
-}
+std::intptr_t Typed_Lines::Waitable() const { return input->File; }
 
-std::vector<std::string> Typed_Lines::Take() {
+std::optional<std::string> Typed_Lines::Read() {
   std::array<char, 512> bytes;
-  const ssize_t got = read(file, bytes.data(), bytes.size());
-  if (got < 0 && (errno == EAGAIN || errno == EINTR)) return {};
-  std::vector<std::string> lines;
-  if (got <= 0) {
-    file = -1;
-    if (!begun.empty()) lines.push_back(std::exchange(begun, {}));
-    return lines;
-  }
-  for (std::size_t i = 0; i < static_cast<std::size_t>(got); ++i) {
-    if (bytes[i] == '\n')
-      lines.push_back(std::exchange(begun, {}));
-    else if (begun.size() < kLongest)
-      begun += bytes[i];
-  }
-  return lines;
+  const ssize_t got = read(input->File, bytes.data(), bytes.size());
+  if (got > 0) return std::string(bytes.data(), static_cast<std::size_t>(got));
+  if (got < 0 && (errno == EAGAIN || errno == EINTR)) return "";
+  input->File = -1;
+  return std::nullopt;
 }
 
 }  // namespace board
