@@ -19,6 +19,7 @@
 #include "shell/qt/seams/end_signals.h"
 #include "shell/qt/seams/file_dialog.h"
 #include "shell/qt/seams/instance_lock.h"
+#include "shell/qt/seams/serial_port.h"
 #include "shell/windows/wiring.h"
 
 namespace wrenbit {
@@ -39,8 +40,8 @@ QString Config_Folder() {
 
 Program::Program(int& argc, char** argv)
     : application(argc, argv),
-      settings(Config_Folder() + QStringLiteral("/settings.ini")),
-      serial(Config_Folder().toStdString()) {
+      settings(Place_Of_Settings(Config_Folder())),
+      serial(Make_Serial_Port(Config_Folder().toStdU16String())) {
   Install_Accessibility();
   QApplication::setApplicationName(QString::fromStdString(App.Title));
   QApplication::setDesktopFileName(
@@ -55,14 +56,14 @@ Program::Program(int& argc, char** argv)
   if (translator->load(QStringLiteral("qtbase_ja"), QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
     QApplication::installTranslator(translator);
 
-  App.Path = QApplication::applicationDirPath().toStdString();
-  App.HelpFile = App.Path + "/WRENBIT.HLP";
+  App.Path = QDir::toNativeSeparators(QApplication::applicationDirPath()).toStdString();
+  App.HelpFile = QDir::toNativeSeparators(QApplication::applicationDirPath() + "/WRENBIT.HLP").toStdString();
   QDir().mkpath(Config_Folder());
   App.PrevInstance = !Claim_Instance((Config_Folder() + QStringLiteral("/instance.lock")).toStdString());
 
   ThePlatform = &platform;
   TheSettings = &settings;
-  MSComm1.Attach(&serial);
+  MSComm1.Attach(serial.get());
   Wire_Windows();
   Offer_Views();
   On_End_Signal(&application, [this] { frmMain.Loaded() ? frmMain.Close() : platform.End(); });

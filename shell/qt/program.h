@@ -5,14 +5,15 @@
 #include <QApplication>
 #include <memory>
 
+#include "link/serial_backend.h"
 #include "shell/qt/seams/qt_platform.h"
-#include "shell/qt/seams/qt_serial.h"
 #include "shell/qt/seams/qt_settings.h"
 #include "shell/qt/views/form_view.h"
 
 namespace wrenbit {
 
-// wrenbit/ in the user's configuration folder: settings, instance lock, whose the COM numbers are.
+// wrenbit/ in the user's configuration folder: instance lock, whose the COM numbers are, and the settings
+// where they are a file.
 QString Config_Folder();
 
 // The one instance in a process. Nothing shows until Start, and the view of a window is made when it is first
@@ -38,7 +39,7 @@ class Program {
   QApplication application;
   Qt_Platform platform;
   Qt_Settings settings;
-  Qt_Serial serial;
+  std::unique_ptr<Serial_Backend> serial;
   std::unique_ptr<Form_View> main_window, com_window, about_window, splash_window;
 };
 

@@ -18,7 +18,9 @@ class Settings : public testing::Test {
   const Temporary_Folder folder;
   const std::string path = folder / "settings.ini";
 
-  static Qt_Settings Store(const std::string& file) { return Qt_Settings(QString::fromStdString(file)); }
+  static Qt_Settings Store(const std::string& file) {
+    return Qt_Settings({QString::fromStdString(file), QSettings::IniFormat});
+  }
 };
 
 TEST_F(Settings, TheLockBesideThemHasOneOwnerWhateverAFileLeftBehindNames) {

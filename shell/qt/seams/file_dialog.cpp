@@ -57,7 +57,11 @@ QFileInfo With_Extension(const QFileInfo& chosen, const QString& extension) {
 }
 
 bool Ask(CommonDialog& dialog, QFileDialog::AcceptMode mode, QWidget* owner) {
-  QFileDialog box(owner, QString::fromStdString(dialog.DialogTitle),
+  const bool saving = mode == QFileDialog::AcceptSave;
+  // Without one Windows' own dialog would have none.
+  const QString title = dialog.DialogTitle.empty() ? QFileDialog::tr(saving ? "Save As" : "Open")
+                                                   : QString::fromStdString(dialog.DialogTitle);
+  QFileDialog box(owner, title,
                   dialog.InitDir.empty() ? QDir::homePath() : QString::fromStdString(dialog.InitDir));
   box.setAcceptMode(mode);
   // What is to be said of a name, there already or not there, the program says itself.
@@ -65,7 +69,6 @@ bool Ask(CommonDialog& dialog, QFileDialog::AcceptMode mode, QWidget* owner) {
   box.setOption(QFileDialog::DontConfirmOverwrite);
   box.setNameFilters(Name_Filters(dialog.Filter));
   const QString extension = QString::fromStdString(dialog.DefaultExt);
-  const bool saving = mode == QFileDialog::AcceptSave;
   if (saving) box.setDefaultSuffix(extension);
   const QString proposed = QString::fromStdString(dialog.FileName);
   // A pattern in place of a name says no more than the filter does.
@@ -75,7 +78,7 @@ bool Ask(CommonDialog& dialog, QFileDialog::AcceptMode mode, QWidget* owner) {
 
   QFileInfo chosen(box.selectedFiles().first());
   if (!saving) chosen = With_Extension(chosen, extension);
-  dialog.FileName = chosen.filePath().toStdString();
+  dialog.FileName = QDir::toNativeSeparators(chosen.filePath()).toStdString();
   dialog.FileTitle = chosen.fileName().toStdString();
   return true;
 }

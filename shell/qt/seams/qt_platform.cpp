@@ -72,7 +72,12 @@ void Qt_Platform::Await_Event(double seconds) {
 
 double Qt_Platform::Timer() { return static_cast<double>(clock.nsecsElapsed()) / 1e9; }
 
-void Qt_Platform::Sleep(int milliseconds) { QThread::msleep(static_cast<unsigned long>(milliseconds)); }
+// A system that counts its own ticks may wake up a part of one too early.
+void Qt_Platform::Sleep(int milliseconds) {
+  const qint64 end = clock.nsecsElapsed() + milliseconds * qint64{1'000'000};
+  for (qint64 left; (left = end - clock.nsecsElapsed()) > 0;)
+    QThread::usleep(static_cast<unsigned long>((left + 999) / 1000));
+}
 
 bool Qt_Platform::MsgBox(const std::string& text, Message_Icon icon, Message_Buttons buttons,
                          const std::string& title) {

@@ -1,4 +1,4 @@
-// The serial port of the real program.
+// A serial port by way of Qt.
 #pragma once
 
 #include <QSerialPort>

@@ -4,6 +4,7 @@
 #include <QFileInfo>
 
 #include "shell/qt/seams/serial_handle.h"
+#include "shell/qt/seams/serial_port.h"
 
 namespace wrenbit {
 namespace {
@@ -109,6 +110,10 @@ bool Qt_Serial::Write(std::span<const std::uint8_t> bytes) {
   if (port.bytesToWrite() == 0) return true;
   port.clear(QSerialPort::Output);  // Else it would be tried over and over.
   return false;
+}
+
+std::unique_ptr<Serial_Backend> Make_Serial_Port(const std::filesystem::path& config_folder) {
+  return std::make_unique<Qt_Serial>(config_folder);
 }
 
 }  // namespace wrenbit
