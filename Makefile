@@ -1,6 +1,6 @@
 # The short words for what people do here. Each installs what is missing, builds, and does its job.
 
-.PHONY: run test bench package clean
+.PHONY: run test bench package package-windows clean
 
 run:
 	@scripts/install-packages build
@@ -17,6 +17,10 @@ bench:
 package:
 	@scripts/install-packages build package
 	@scripts/package
+
+package-windows:
+	@scripts/install-packages build package-windows
+	@scripts/package-windows
 
 clean:
 	rm -rf build
