@@ -14,6 +14,8 @@
 namespace wrenbit {
 namespace {
 
+constexpr double kShort = 0.1;  // Seconds. A limit beyond may be missed by a twentieth.
+
 QMessageBox::Icon Icon_Of(Message_Icon icon) {
   switch (icon) {
     case Message_Icon::None:
@@ -64,7 +66,8 @@ void Qt_Platform::Repaint() { QCoreApplication::processEvents(QEventLoop::Exclud
 void Qt_Platform::Await_Event(double seconds) {
   // A wait for events knows no limit of its own.
   QTimer limit;
-  limit.setTimerType(Qt::PreciseTimer);
+  // Precise ones cost much on Windows, where each has a thread of its own.
+  if (seconds < kShort) limit.setTimerType(Qt::PreciseTimer);
   limit.setSingleShot(true);
   limit.start(std::max(0, static_cast<int>(std::ceil(seconds * 1000))));
   QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
