@@ -91,6 +91,7 @@ void Form_View::Hook_Form() {
       Centre();
       Focus_First();
     }
+    placing = true;  // Windows tells of a place of its own choice before it can be told of ours.
     if (modal)
       Show_Until_Hidden();
     else
