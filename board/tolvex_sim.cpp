@@ -44,7 +44,7 @@ std::vector<std::string> Chips_And_None() {
 
 void Describe(CLI::App& app, Options& options) {
   app.add_option("--com", options.Com,
-                 "Number of the port, which becomes wrenbit/ports/COM<N> in the user's configuration")
+                 "Number of the port, which is named among wrenbit/ports in the user's configuration")
       ->required()
       ->check(CLI::Range(1, 20));
   app.add_option("--chip", options.Chip, "Chip in the socket")

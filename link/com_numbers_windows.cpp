@@ -5,6 +5,7 @@
 #include <devguid.h>
 #include <setupapi.h>
 
+#include <algorithm>
 #include <string>
 #include <utility>
 
@@ -14,6 +15,13 @@
 
 namespace wrenbit {
 namespace {
+
+// Without the byte order mark that an editor puts before it, and without blanks behind it.
+std::string First_Line(std::string text) {
+  if (text.starts_with("\uFEFF")) text.erase(0, 3);
+  text.erase(std::min(text.find_first_of("\r\n"), text.size()));
+  return text.substr(0, text.find_last_not_of(" \t") + 1);
+}
 
 // Empty where the driver says none.
 std::string Property(HDEVINFO devices, SP_DEVINFO_DATA& device, DWORD which) {
@@ -58,7 +66,7 @@ std::optional<Serial_Device> Com_Numbers::Device(int number) const {
   const std::string name = "COM" + std::to_string(number);
   // No file can be called COM3 there, nor COM3.txt.
   if (const auto named = Read_Whole_File(Utf8_Of(ports / ("port-" + name + ".txt"))))
-    return Serial_Device{.Path = named->substr(0, named->find_first_of("\r\n"))};
+    return Serial_Device{.Path = First_Line(*named)};
   wchar_t ignored[1024];
   if (!QueryDosDeviceW(Wide(name).c_str(), ignored, DWORD{std::size(ignored)})) return std::nullopt;
   Serial_Device device{.Path = name};

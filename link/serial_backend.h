@@ -48,7 +48,8 @@ class Serial_Backend {
   virtual std::vector<std::uint8_t> Take() = 0;
   virtual void Drop() = 0;
   // Goes out at once and in one piece. False when the port is lost or the system refuses, which may take a
-  // tenth of a second: a part of these bytes may have gone out then, and the rest never does.
+  // tenth of a second, or twice the time of a full buffer: a part of these bytes may have gone out then, and
+  // the rest never does.
   virtual bool Write(std::span<const std::uint8_t> bytes) = 0;
 
   // Called once, from the event loop, when the open port has gone away.

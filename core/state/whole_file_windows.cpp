@@ -4,8 +4,8 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <iterator>
 #include <random>
-#include <system_error>
 #include <utility>
 
 #include "core/state/wide_path.h"
@@ -15,6 +15,14 @@ namespace {
 
 constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
 constexpr std::size_t kLargestFile = 256u << 20;
+
+std::string System_Text(DWORD error) {
+  wchar_t text[256];
+  const DWORD length = FormatMessageW(FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS, nullptr,
+                                      error, 0, text, DWORD{std::size(text)}, nullptr);
+  const std::string told = Utf8({text, length});
+  return told.substr(0, told.find_last_not_of("\r\n") + 1) + " " + std::to_string(error);
+}
 
 std::string Reason(DWORD error) {
   switch (error) {
@@ -38,7 +46,7 @@ std::string Reason(DWORD error) {
     case ERROR_INVALID_NAME:
       return "ファイル名に使えない文字があります。";
     default:
-      return "ファイルに書き込めません。(" + std::system_category().message(static_cast<int>(error)) + ")";
+      return "ファイルに書き込めません。(" + System_Text(error) + ")";
   }
 }
 
@@ -95,7 +103,7 @@ bool Write(const File& file, std::string_view text) {
 bool Make(const std::wstring& path, std::string_view text, DWORD attributes) {
   File file(path, GENERIC_WRITE, CREATE_NEW);
   return file && Write(file, text) && FlushFileBuffers(*file) && file.Close() &&
-         SetFileAttributesW(path.c_str(), attributes);
+         SetFileAttributesW(path.c_str(), attributes | FILE_ATTRIBUTE_ARCHIVE);
 }
 
 }  // namespace
@@ -132,7 +140,7 @@ std::optional<std::string> Write_Whole_File(const std::string& path, std::string
     if (!Regular(goal)) return "通常のファイルではないので、書き込めません。";
     if (attributes & FILE_ATTRIBUTE_READONLY) return Reason(ERROR_ACCESS_DENIED);
     // Moving a file over it asks the folder only.
-    const File old(goal, GENERIC_WRITE, OPEN_EXISTING);
+    const File old(goal, GENERIC_WRITE | DELETE, OPEN_EXISTING);
     if (!old) return Reason(GetLastError());
     goal = Final_Path(old, goal);
   }

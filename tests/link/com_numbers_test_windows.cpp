@@ -10,7 +10,7 @@ namespace {
 TEST(Com_Numbers, AFileBesideTheSettingsComesBeforeTheSystem) {
   const Temporary_Folder config;
   std::filesystem::create_directory(config / "ports");
-  Put_Content(config / "ports/port-COM7.txt", "\\\\.\\pipe\\board\r\n");
+  Put_Content(config / "ports/port-COM7.txt", "\uFEFF\\\\.\\pipe\\board \r\n");
   const Com_Numbers numbers(config.Path());
   ASSERT_TRUE(numbers.Device(7));
   EXPECT_EQ(numbers.Device(7)->Path, "\\\\.\\pipe\\board");

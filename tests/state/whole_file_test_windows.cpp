@@ -71,8 +71,8 @@ TEST_F(Whole_File, ARefusalTellsWhyAndLeavesWhatWasThere) {
   SetFileAttributesW(path.c_str(), FILE_ATTRIBUTE_READONLY);
   EXPECT_EQ(Write_Whole_File(file, "new"), "書き込みが許可されていないか、読み取り専用です。");
   SetFileAttributesW(path.c_str(), FILE_ATTRIBUTE_NORMAL);
-  const HANDLE others =
-      CreateFileW(path.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr);
+  const HANDLE others = CreateFileW(path.c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
+                                    OPEN_EXISTING, 0, nullptr);
   EXPECT_EQ(Write_Whole_File(file, "new"), "ほかのプログラムがファイルを使用しています。");
   CloseHandle(others);
   EXPECT_EQ(Read_Whole_File(file), "old");

@@ -8,6 +8,7 @@
 
 #include "core/state/wide_path.h"
 #include "link/com_numbers.h"
+#include "link/mscomm.h"
 #include "shell/qt/seams/serial_port.h"
 
 namespace wrenbit {
@@ -28,7 +29,6 @@ Port_Fault Fault_Of(DWORD error) {
     case ERROR_ACCESS_DENIED:  // What drivers say of a port that is open already.
     case ERROR_SHARING_VIOLATION:
     case ERROR_PIPE_BUSY:
-    case ERROR_SEM_TIMEOUT:  // The pipe stayed busy.
       return Port_Fault::In_Use;
     case ERROR_DEVICE_NOT_CONNECTED:
     case ERROR_BAD_COMMAND:
@@ -41,13 +41,15 @@ Port_Fault Fault_Of(DWORD error) {
 
 // A virtual board that was just let go of takes a moment to listen again.
 HANDLE Open_Device(const std::wstring& path) {
-  HANDLE device;
-  do {
-    device = CreateFileW(path.c_str(), GENERIC_READ | GENERIC_WRITE, 0, nullptr, OPEN_EXISTING,
-                         FILE_FLAG_OVERLAPPED | SECURITY_SQOS_PRESENT | SECURITY_ANONYMOUS, nullptr);
-  } while (device == INVALID_HANDLE_VALUE && GetLastError() == ERROR_PIPE_BUSY &&
-           WaitNamedPipeW(path.c_str(), kPatience));
-  return device;
+  while (true) {
+    const HANDLE device =
+        CreateFileW(path.c_str(), GENERIC_READ | GENERIC_WRITE, 0, nullptr, OPEN_EXISTING,
+                    FILE_FLAG_OVERLAPPED | SECURITY_SQOS_PRESENT | SECURITY_ANONYMOUS, nullptr);
+    if (device != INVALID_HANDLE_VALUE || GetLastError() != ERROR_PIPE_BUSY) return device;
+    if (WaitNamedPipeW(path.c_str(), kPatience)) continue;
+    SetLastError(ERROR_PIPE_BUSY);
+    return device;
+  }
 }
 
 // 9600 baud, 8N1, no flow control; reads wait for their byte.
@@ -116,11 +118,13 @@ Port_Fault Win32_Serial::Open(int number, bool rts, bool dtr) {
   if (!Is_Open()) return Fault_Of(GetLastError());
   // A pipe has neither a pace nor lines.
   if (GetFileType(port) != FILE_TYPE_PIPE && !Set_Up(port, rts, dtr)) {
-    const DWORD error = GetLastError();
+    const Port_Fault fault = Fault_Of(GetLastError());
     CloseHandle(std::exchange(port, INVALID_HANDLE_VALUE));
-    return Fault_Of(error);
+    // It was there for us alone when it was opened.
+    return fault == Port_Fault::In_Use ? Port_Fault::Gone : fault;
   }
   timeBeginPeriod(kResolution);
+  SetThreadExecutionState(ES_CONTINUOUS | ES_SYSTEM_REQUIRED);  // A long transfer is no idleness.
   Ask_For_A_Byte();
   return Port_Fault::None;
 }
@@ -137,6 +141,7 @@ void Win32_Serial::Release() {
   CancelIoEx(closing, &reading);
   while (asked) SleepEx(INFINITE, TRUE);  // Till then the driver may write to `next`.
   CloseHandle(closing);
+  SetThreadExecutionState(ES_CONTINUOUS);
   timeEndPeriod(kResolution);
 }
 
@@ -203,8 +208,10 @@ bool Win32_Serial::Write(std::span<const std::uint8_t> bytes) {
   const auto size = static_cast<DWORD>(bytes.size());
   if (!WriteFile(port, bytes.data(), size, nullptr, &writing) && GetLastError() != ERROR_IO_PENDING)
     return false;
+  // An adapter takes these bytes when it has room, behind all that it still holds.
+  const DWORD limit = kPatience + kByteSlowness * (DWORD{MSComm::kOutBufferSize} + size);
   DWORD count = 0;
-  if (!GetOverlappedResultEx(port, &writing, &count, kPatience + kByteSlowness * size, FALSE)) {
+  if (!GetOverlappedResultEx(port, &writing, &count, limit, FALSE)) {
     CancelIoEx(port, &writing);
     GetOverlappedResult(port, &writing, &count, TRUE);
   }
