@@ -17,7 +17,8 @@ namespace {
 constexpr DWORD kPatience = 100;    // Milliseconds that a write may take beyond the time of its bytes,
 constexpr DWORD kByteSlowness = 2;  // which have a little more than 1 ms each on the wire.
 
-// Milliseconds. While a port is open waits keep to that; by itself the system wakes a program every 16.
+// Milliseconds, asked for while a port is open; by itself the system wakes a program every 16. Windows 11
+// grants it to windows that are seen.
 constexpr UINT kResolution = 1;
 
 Port_Fault Fault_Of(DWORD error) {
